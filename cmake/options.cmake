@@ -1,0 +1,24 @@
+# How every target of the project is compiled.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+option(BROLGAN_FACE "Build the desktop face (needs Qt 6)" ON)
+option(BROLGAN_SOUND "Build the face with sound (needs SDL2)" ON)
+option(BROLGAN_TESTS "Build the tests" ON)
+option(BROLGAN_SANITIZE "Check addresses and undefined behaviour while running" OFF)
+option(BROLGAN_COVERAGE "Count the lines that run" OFF)
+
+add_library(brolgan_options INTERFACE)
+# Floating sums are done operation by operation as written: no fused or reordered ones.
+target_compile_options(brolgan_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wno-sign-conversion -Wno-missing-field-initializers -Wshadow -Werror -ffp-contract=off)
+if(BROLGAN_SANITIZE)
+  target_compile_options(brolgan_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all)
+  target_link_options(brolgan_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(BROLGAN_COVERAGE)
+  target_compile_options(brolgan_options INTERFACE --coverage -fprofile-update=atomic)
+  target_link_options(brolgan_options INTERFACE --coverage)
+endif()

@@ -1,0 +1,20 @@
+# brolgan_room(NAME FOLDER [ROOM...]): the library brolgan_NAME from all sources in FOLDER, which may
+# include the headers of the rooms named and of those behind them, and of no other: each room sees
+# only a folder of links to the rooms that it is allowed to see.
+function(brolgan_room name folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.cpp)
+  set(room brolgan_${name})
+  add_library(${room} STATIC ${sources})
+  set(view ${PROJECT_BINARY_DIR}/rooms/${name})
+  file(MAKE_DIRECTORY ${view}/${folder})
+  file(GLOB headers CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.h)
+  foreach(header IN LISTS headers)
+    cmake_path(GET header FILENAME file)
+    file(CREATE_LINK ${header} ${view}/${folder}/${file} SYMBOLIC)
+  endforeach()
+  target_include_directories(${room} PUBLIC ${view})
+  target_link_libraries(${room} PUBLIC brolgan_options)
+  foreach(other IN LISTS ARGN)
+    target_link_libraries(${room} PUBLIC brolgan_${other})
+  endforeach()
+endfunction()

@@ -1,0 +1,173 @@
+// The fight: one hero against one group of like monsters, round by round, until the group is gone
+// or the hero has fallen. Reads fight.cfg, the hero file, bron.cfg and gra.cfg; at its end it writes
+// the hero file, gra.cfg and sklep.cfg and opens the next player's shop, or ends the game.
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "flow/services/runtime.h"
+#include "rules/handover.h"
+#include "rules/hero.h"
+#include "rules/weapons.h"
+
+namespace brolgan {
+
+class Fight : public Form {
+ public:
+  static constexpr const char* kName = "Fight";
+  explicit Fight(Runtime& runtime);
+
+  void Form_Load() override;
+
+  CommandButton Heroshow{.Picture = "arkusz.png"};
+  ComboBox Bron;
+  CommandButton Atak{"Atakuj !"};
+  ComboBox Czar;
+  TextBox mana{.Text = "0", .Enabled = false};
+  CommandButton Rzuc{"Rzuć"};
+  ComboBox Przedmiot;
+  CommandButton Uzyj{"Użyj"};
+  CommandButton NastTura{"Następna Tura"};
+  Frame FZad{.Visible = false};
+  PictureBox Picture2{"cios.png"};
+  Label Label4{"Zadałeś :"};
+  Label IleZad;
+  Label OpisZad;
+  CommandButton CloseZad{.Picture = "zamknij.png"};
+  Frame FDamage{.Caption = "DAMAGE!", .Visible = false};
+  PictureBox Picture1{"rana.png"};
+  Label Label3{"Otrzymałeś :"};
+  Label IleDMG;
+  Label OpisDMG;
+  CommandButton CloseDMG{.Picture = "zamknij-rana.png"};
+  Label Uwaga{.Visible = false};
+  PictureBox Potwór;
+  Label LIle{"1"};
+  Label Odl{"DALEKA"};
+  Label Label1{"Odległość :"};
+  std::array<Label, 4> Pstat{Label{"0"}, Label{"0"}, Label{"0"}, Label{}};
+  std::array<Label, 4> Mstat{Label{"0"}, Label{"0"}, Label{"0"}, Label{}};
+  std::array<Label, 10> Label2{
+      Label{"Twoje statystyki:"},   Label{"Wytrzymałość"}, Label{"Pancerz"}, Label{"Punkty Magii"}, Label{"DAMAGE :"},
+      Label{"Statystyki Potwora:"}, Label{"Wytrzymałość"}, Label{"Pancerz"}, Label{"Szybkość"},     Label{"DAMAGE :"}};
+  MediaPlayer SFX;
+
+  // Reads the hero file into the record.
+  void Player_Load();
+
+ protected:
+  void listControls(ControlTable& table) override;
+
+ private:
+  void Heroshow_Click();
+  void Bron_Click();
+  void Atak_Click();
+  void Czar_Click();
+  void Rzuc_Click();
+  void Uzyj_Click();
+  void NastTura_Click();
+  void CloseZad_Click();
+  void CloseDMG_Click();
+
+  // Loading and redrawing.
+  void Fight_Load();
+  void Bron_Walka();
+  void Czary_Lista();
+  void Przedmioty_Lista();
+  void Wybory_Load();
+  void Statystyki();
+  [[nodiscard]] std::string damageText() const;
+  [[nodiscard]] Integer armour() const;
+  Integer& targetLife() { return PotworZycie(Ostatni); }
+  Integer& targetArmour() { return PotworPancerz(Ostatni); }
+  void play(const std::string& file);
+  void disableActions();
+
+  // Attacking.
+  [[nodiscard]] bool mayStrike() const;
+  [[nodiscard]] bool isStaff() const;
+  void strike();
+  void spendBlow();
+  void shoot();
+  void fireCannon();
+  void fire();
+  void payForUltiGun();
+  void suckArmour();
+  void grow(Integer& percent, Integer die, Integer threshold);
+  void ZadajObrazenia(Integer damage);
+  void spread(Integer harm);
+  void carryOn();
+
+  // Spells and items.
+  void castHealing();
+  void castStrongHealing();
+  void castDamage();
+  void castBullShots();
+  void castBoom();
+  void castClass3A();
+  void castLuck();
+  void payMagic(Integer cost);
+  void spendCast();
+  void heal(Integer amount);
+  void hit(Integer damage);
+  void spreadBullShots(Integer damage);
+  [[nodiscard]] double typedMagic() const;
+  void finishAttackSpell(const char* sound);
+  void finishSpell(const char* sound);
+  void useGrenade();
+  void useAmmo();
+  void hurtThrower();
+  void hurtGroup(Integer roll);
+
+  // The round and the end.
+  void AtakPotwora();
+  void suffer(Integer harm);
+  void tickEffects();
+  void regainMagic();
+  void Zabici();
+  void Player_Save();
+  void KoniecWalki();
+  void leaveGame(const PlayerOrder& order);
+  void recover();
+  void takeReward();
+  void regenerate();
+  void passTurn(const PlayerOrder& order);
+  void openShop();
+
+  Runtime& runtime_;
+  Bohater bohater;
+  Catalogue<101> katalog;
+
+  std::string PlikBohatera;
+  Integer PotworPierwszy;
+  Integer BonusPancerza;
+  // Read and never looked at: the item it comes from protects nobody in the fight.
+  Integer RundyNiesmiertelnosci;
+  Integer IlePotworow;
+  std::string PotworNazwa;
+  std::string PotworObraz;
+  Integer PotworSzybkosc;
+  Kostka PotworAtak;
+  Array<Integer, 26> PotworZycie;
+  Array<Integer, 26> PotworPancerz;
+  Integer NrPotwora;
+  Integer Ostatni;
+  bool Blisko = true;
+  bool MozeRzucac = true;
+  bool MozeStrzelac = true;
+  bool MozeBic = true;
+  Integer WybranaBron;
+  std::string RodzajBroni;
+  Kostka BronKostka;
+  Integer Obrazenia;
+  Integer Pancerz3A;
+  Integer Tury3A;
+  Integer Fart;
+  bool DrugiCios = true;
+  bool AmmoGotowe = false;
+  bool Przeladowanie = false;
+  bool Przezyl = true;
+};
+
+}  // namespace brolgan

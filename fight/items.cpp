@@ -1,0 +1,57 @@
+// The hero's grenades and ammunition in the fight.
+#include "fight/choices.h"
+#include "fight/fight.h"
+#include "flow/services/number_text.h"
+
+namespace brolgan {
+
+void Fight::Uzyj_Click() {
+  if (Przedmiot.Text() == kGrenadeItem) useGrenade();
+  if (Przedmiot.Text() == kAmmoItem) useAmmo();
+  Statystyki();
+}
+
+// A grenade ends the hero's round, whatever he did before it.
+void Fight::useGrenade() {
+  play("specgran.wav");
+  bohater.Wyp(kGrenade) -= 1;
+  if (bohater.Wyp(kGrenade) == 0) Przedmioty_Lista();
+  disableActions();
+  const Integer roll = Rzuty(runtime_.random(), 1, 30, 1);
+  if (roll < 2) {
+    hurtThrower();
+  } else {
+    hurtGroup(roll);
+  }
+}
+
+// MEANT: the figure stands behind those of the last attack, and nobody of the group can fall.
+void Fight::hurtThrower() {
+  const Integer harm = Rzuty(runtime_.random(), 1, 30, 1) - bohater.Wartosci(kArmour) - BonusPancerza - Pancerz3A;
+  suffer(harm);
+}
+
+// MEANT: the target's armour counts for the whole group.
+void Fight::hurtGroup(Integer roll) {
+  if (bohater.MaSpec(kMortar)) roll += 8;
+  const Integer harm = roll - targetArmour();
+  if (harm > 0) {
+    IleZad.Caption.clear();
+    FZad.Visible = true;
+    for (int i = 0; i <= Ostatni.value(); ++i) {
+      IleZad.Caption += str(harm) + " ";
+      PotworZycie(i) -= harm;
+    }
+  }
+  Zabici();
+}
+
+// Costs no action; a second round before a shot is spent for nothing.
+void Fight::useAmmo() {
+  play("specammo.wav");
+  AmmoGotowe = true;
+  bohater.Wyp(kAmmo) -= 1;
+  if (bohater.Wyp(kAmmo) == 0) Przedmioty_Lista();
+}
+
+}  // namespace brolgan

@@ -1,0 +1,44 @@
+#include "flow/services/item_writer.h"
+
+#include <exception>
+#include <utility>
+
+#include "flow/services/code_page.h"
+#include "flow/services/number_text.h"
+
+namespace brolgan {
+
+ItemWriter::ItemWriter(Files& files, std::string name) : files_(files), name_(std::move(name)) { files_.create(name_); }
+
+ItemWriter::~ItemWriter() {
+  if (lines_.empty()) return;
+  try {
+    files_.append(name_, lines_);
+  } catch (const std::exception&) {  // An error is on its way already; a second one would hide it.
+    lines_.clear();
+  }
+}
+
+void ItemWriter::string(std::string_view text) {
+  lines_ += toCodePage(text);
+  endLine();
+}
+
+void ItemWriter::flag(bool set) { string(set ? "True" : "False"); }
+
+void ItemWriter::integer(Integer number) { integers({number}); }
+
+void ItemWriter::integers(std::initializer_list<Integer> numbers) {
+  for (const Integer number : numbers) {
+    lines_ += str(number);
+    lines_ += ' ';
+  }
+  endLine();
+}
+
+void ItemWriter::close() {
+  const std::string lines = std::exchange(lines_, {});
+  files_.append(name_, lines);
+}
+
+}  // namespace brolgan

@@ -1,0 +1,39 @@
+// Writes the items of one text file, one a line, in the game's code page with carriage return and
+// line feed. The file is emptied at once; when an error unwinds a writer, the file keeps the lines
+// that were written until then.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "flow/services/files.h"
+#include "flow/services/integer.h"
+
+namespace brolgan {
+
+class ItemWriter {
+ public:
+  // Creates or empties the file; raises 75 or 76 when that is not possible.
+  ItemWriter(Files& files, std::string name);
+  ItemWriter(const ItemWriter&) = delete;
+  ItemWriter& operator=(const ItemWriter&) = delete;
+  ~ItemWriter();
+
+  void string(std::string_view text);
+  void flag(bool set);
+  void integer(Integer number);
+  // Several numbers side by side on one line.
+  void integers(std::initializer_list<Integer> numbers);
+  // Stores all lines; raises 57 when they cannot be stored. Nothing may be written after it.
+  void close();
+
+ private:
+  void endLine() { lines_ += "\r\n"; }
+
+  Files& files_;
+  std::string name_;
+  std::string lines_;
+};
+
+}  // namespace brolgan

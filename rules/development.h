@@ -1,0 +1,120 @@
+// The tables of development: statistics and their ladders, classes, spells, gear and supplies, with
+// their prices. Constant data, the same for every hero; what a hero has of it stands in his record.
+#pragma once
+
+#include <array>
+#include <span>
+#include <string_view>
+
+#include "flow/services/controls.h"
+#include "flow/services/integer.h"
+#include "rules/dice.h"
+
+namespace brolgan {
+
+// Statistics, in the order of Poziomy.
+enum Statistic { kEndurance, kArmour, kPower, kSpeed, kRegeneration, kModifier, kLives, kStatistics };
+
+struct StatisticRow {
+  const char* name;
+  const char* tip;
+  std::span<const char* const> ladder;  // the captions, step n at n - 1
+
+  [[nodiscard]] int top() const { return static_cast<int>(ladder.size()); }
+};
+
+extern const std::array<StatisticRow, kStatistics> kStatisticTable;
+
+// The number that step stands for on a ladder of numbers. Raises 340 when the ladder has no such step.
+Integer ladderValue(Statistic statistic, Integer step);
+
+// The damage modifier's dice at a step from 1 to 5. Raises 340 outside.
+Kostka modifierDice(Integer step);
+
+// Classes. A hero's class is its caption, compared to the letter.
+enum ClassIndex {
+  kWarrior,
+  kShooter,
+  kWizard,
+  kWitcher,
+  kAdventurer,
+  kSatrap,
+  kBerserker,
+  kGambler,
+  kMonk,
+  kHandyman,
+  kClasses
+};
+
+struct ClassRow {
+  const char* caption;
+  const char* tip;
+  int meleePercent;
+  int rangedPercent;
+  int plus;
+};
+
+extern const std::array<ClassRow, kClasses> kClassTable;
+
+bool isClass(std::string_view klasa, ClassIndex index);
+
+// Spells, in the order of MaCzar.
+enum SpellIndex {
+  kHealing,
+  kDamage,
+  kBullShots,
+  kBoom,
+  kAntiHealing,
+  kSummoning,
+  kClass3A,
+  kLuck,
+  kTeleport,
+  kAutostart,
+  kSpells
+};
+
+struct SpellRow {
+  const char* name;
+  int price;
+  const char* description;
+  Colour group;
+  bool forSale;
+};
+
+extern const std::array<SpellRow, kSpells> kSpellTable;
+
+// Gear, in the order of MaSpec.
+enum GearIndex { kMortar, kBoarBelt, kSucker, kRummager, kGear };
+
+struct GearRow {
+  const char* name;
+  int creationPrice;
+  int shopPrice;
+  const char* creationTip;
+  const char* shopTip;
+  bool forSale;
+};
+
+extern const std::array<GearRow, kGear> kGearTable;
+
+// Supplies, in the order of Wyp.
+enum SupplyIndex { kGrenade, kAmmo, kSupplies };
+
+struct SupplyRow {
+  const char* name;
+  const char* tip;
+  int perPurchase;
+};
+
+extern const std::array<SupplyRow, kSupplies> kSupplyTable;
+
+// What one step costs. On the creation screen a life is dearer; the shop sells none.
+inline constexpr int kCreationStepPrice = 1;
+inline constexpr int kCreationLifePrice = 2;
+inline constexpr int kShopStepPrice = 2;
+inline constexpr int kSupplyPrice = 1;
+
+// The points that the class "Satrapa" brings while it is selected at creation.
+inline constexpr int kSatrapPoints = 4;
+
+}  // namespace brolgan

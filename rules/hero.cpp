@@ -1,0 +1,151 @@
+#include "rules/hero.h"
+
+namespace brolgan {
+
+namespace {
+
+struct WeaponSlots {
+  Array<bool, 10>& owned;
+  Array<Integer, 10>& percent;
+  Array<Integer, 10>& plus;
+  const char* ownedName;
+  const char* percentName;
+  const char* plusName;
+};
+
+void readSlots(ItemReader& in, const WeaponSlots& slots) {
+  for (int i = 0; i < 10; ++i) {
+    slots.owned(i) = in.flag({slots.ownedName, i});
+    slots.percent(i) = in.integer({slots.percentName, i});
+    slots.plus(i) = in.integer({slots.plusName, i});
+  }
+}
+
+template <class Numbers>
+void readIntegers(ItemReader& in, Numbers& numbers, const char* name) {
+  for (int i = 0; i < Numbers::size; ++i) numbers(i) = in.integer({name, i});
+}
+
+template <class Flags>
+void readFlags(ItemReader& in, Flags& flags, const char* name) {
+  for (int i = 0; i < Flags::size; ++i) flags(i) = in.flag({name, i});
+}
+
+template <class Numbers>
+void writeIntegers(ItemWriter& out, const Numbers& numbers) {
+  for (const Integer number : numbers) out.integer(number);
+}
+
+void writeSlots(ItemWriter& out, const Array<bool, 10>& owned, const Array<Integer, 10>& percent,
+                const Array<Integer, 10>& plus) {
+  for (int i = 0; i < 10; ++i) {
+    out.flag(owned(i));
+    out.integer(percent(i));
+    out.integer(plus(i));
+  }
+}
+
+void writeBeginning(ItemWriter& out, const Bohater& hero) {
+  out.string(hero.Imie);
+  out.integer(hero.Ile_jeszcze);
+  out.string(hero.Klasa);
+  out.integer(hero.AktWytrzymalosc);
+  out.integer(hero.AktMoc);
+  for (int i = 0; i < 5; ++i) {
+    out.integer(hero.Poziomy(i));
+    out.integer(hero.Wartosci(i));
+  }
+  out.integer(hero.Poziomy(5));
+  writeOnOneLine(out, hero.MO);
+  out.integer(hero.Poziomy(6));
+  out.integer(hero.Wcielenia);
+}
+
+}  // namespace
+
+void readPerson(ItemReader& in, Bohater& hero) {
+  hero.Imie = in.string("Imie");
+  hero.Ile_jeszcze = in.integer("Ile_jeszcze");
+  hero.Klasa = in.string("Klasa");
+  hero.AktWytrzymalosc = in.integer("AktWytrzymalosc");
+  hero.AktMoc = in.integer("AktMoc");
+}
+
+void readStatistics(ItemReader& in, Bohater& hero) {
+  for (int i = 0; i < 5; ++i) {
+    hero.Poziomy(i) = in.integer({"Poziomy", i});
+    hero.Wartosci(i) = in.integer({"Wartosci", i});
+  }
+}
+
+void readModifier(ItemReader& in, Bohater& hero) {
+  hero.Poziomy(5) = in.integer({"Poziomy", 5});
+  hero.MO = readDice(in);
+  hero.Poziomy(6) = in.integer({"Poziomy", 6});
+  hero.Wcielenia = in.integer("Wcielenia");
+}
+
+void readWeapons(ItemReader& in, Bohater& hero) {
+  readSlots(in, {hero.MaBronww, hero.BronwwProc, hero.BronwwPlus, "MaBronww", "BronwwProc", "BronwwPlus"});
+  readSlots(in, {hero.MaBronss, hero.BronssProc, hero.BronssPlus, "MaBronss", "BronssProc", "BronssPlus"});
+}
+
+// MEANT: a new hero has a fifth gear flag on the line of the first counter; as a word it reads as 0.
+void readGoods(ItemReader& in, Bohater& hero) {
+  readFlags(in, hero.MaCzar, "MaCzar");
+  readIntegers(in, hero.Wyp, "Wyp");
+  readFlags(in, hero.MaSpec, "MaSpec");
+  readIntegers(in, hero.Przedmioty, "Przedmioty");
+}
+
+void readHistory(ItemReader& in, Bohater& hero) {
+  hero.Tura = in.integer("Tura");
+  hero.OstatniCzar = in.string("OstatniCzar");
+  hero.OstatniPrzedmiot = in.string("OstatniPrzedmiot");
+  hero.OstatniaBron = in.string("OstatniaBron");
+  readIntegers(in, hero.Stwory, "Stwory");
+}
+
+Bohater Player_Load(ItemReader in) {
+  Bohater hero;
+  readPerson(in, hero);
+  readStatistics(in, hero);
+  readModifier(in, hero);
+  readWeapons(in, hero);
+  readGoods(in, hero);
+  readHistory(in, hero);
+  return hero;
+}
+
+void writeMelee(ItemWriter& out, const Bohater& hero) {
+  writeSlots(out, hero.MaBronww, hero.BronwwProc, hero.BronwwPlus);
+}
+
+void writeRanged(ItemWriter& out, const Bohater& hero) {
+  writeSlots(out, hero.MaBronss, hero.BronssProc, hero.BronssPlus);
+}
+
+void writeItems(ItemWriter& out, const Bohater& hero) { writeIntegers(out, hero.Przedmioty); }
+
+void writeLastChoices(ItemWriter& out, const Bohater& hero) {
+  out.string(hero.OstatniCzar);
+  out.string(hero.OstatniPrzedmiot);
+  out.string(hero.OstatniaBron);
+}
+
+void writeKills(ItemWriter& out, const Bohater& hero) { writeIntegers(out, hero.Stwory); }
+
+void Player_Save(ItemWriter& out, const Bohater& hero) {
+  writeBeginning(out, hero);
+  writeMelee(out, hero);
+  writeRanged(out, hero);
+  writeFlags(out, hero.MaCzar);
+  writeIntegers(out, hero.Wyp);
+  writeFlags(out, hero.MaSpec);
+  writeItems(out, hero);
+  out.integer(hero.Tura);
+  writeLastChoices(out, hero);
+  writeKills(out, hero);
+}
+
+}  // namespace brolgan
