@@ -20,9 +20,9 @@ CTmhero::CTmhero(Runtime& runtime) : DevelopmentForm(runtime) {
   Plik = {.Text = "hero.boh", .Visible = false};
   Save.Caption = "Zapisz";
   Save.Click = [this] { Save_Click(); };
-  pics[0].Picture = "tworz-miecz.jpg";
-  pics[1].Picture = "tworz-ksiega.jpg";
-  pics[2].Picture = "tworz-kufel.jpg";
+  pics[0].Picture = "tworz-miecz.png";
+  pics[1].Picture = "tworz-ksiega.png";
+  pics[2].Picture = "tworz-kufel.png";
   for (int i = 0; i < kStatistics; ++i) ladder(i)[0].ForeColor = Colour::red;
   for (int i = 0; i < kClasses; ++i) {
     Klasa[i] = {kClassTable[i].caption, i == 0, kClassTable[i].tip, [this, i] { Klasa_Click(i); }};

@@ -20,11 +20,11 @@ CTsklep::CTsklep(Runtime& runtime) : DevelopmentForm(runtime) {
   Plik = {.Visible = false, .Locked = true};
   Save = {.Caption = "Tak, Koniec", .Visible = false, .Enabled = false, .Click = [this] { Save_Click(); }};
   Heroshow.Click = [this] { Heroshow_Click(); };
-  pics[0].Picture = "szyld.jpg";
+  pics[0].Picture = "szyld.png";
   pics[1].Picture = "stragan-czary.jpg";
   pics[2].Picture = "stragan-bron.jpg";
   pics[3].Picture = "stragan-cechy.jpg";
-  pics[4].Picture = "lampa.jpg";
+  pics[4].Picture = "lampa.png";
   for (int i = 0; i < kGear; ++i) {
     Spec[i].ToolTipText = kGearTable[i].shopTip;
     Speccena[i].Caption = decimal(std::int64_t{kGearTable[i].shopPrice});

@@ -1,0 +1,146 @@
+#include "desktop/face.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTimer>
+
+#include "desktop/picture_store.h"
+#include "desktop/text.h"
+#include "flow/services/hands.h"
+#include "flow/services/runtime_error.h"
+
+namespace brolgan::desktop {
+
+namespace {
+
+// The title stays behind and the sheet beside; the other screens take each other's place.
+bool takesTurns(const std::string& name) { return name != "Brolgan" && name != "FHero"; }
+
+// About what a window manager adds above a window and on its other sides.
+constexpr int kFrameTop = 26;
+constexpr int kFrameSide = 4;
+
+const ControlEntry& entryOf(Form& form, std::size_t index) { return form.controls().entries()[index]; }
+
+}  // namespace
+
+Face::Face(Runtime& runtime, PictureStore& pictures) : runtime_(runtime), pictures_(pictures) {}
+
+Face::~Face() = default;
+
+void Face::start() {
+  act([this] { runtime_.Show("Starter"); });
+}
+
+FormWindow* Face::window(const std::string& name) const {
+  const auto found = windows_.find(name);
+  return found == windows_.end() ? nullptr : found->second.get();
+}
+
+void Face::act(const std::function<void()>& doing) {
+  if (over_) return;
+  try {
+    doing();
+  } catch (const RuntimeError& error) {
+    fail(error.what());
+    return;
+  }
+  synchronize();
+}
+
+// The one message box of the game; behind it the program ends.
+void Face::fail(const char* text) {
+  over_ = true;
+  runtime_.End();
+  const QString message = QString::fromUtf8(text);
+  if (onError) {
+    onError(message);
+  } else {
+    QMessageBox(QMessageBox::Critical, QString::fromUtf8("Błąd"), message, QMessageBox::Ok).exec();
+  }
+  QCoreApplication::exit(1);
+}
+
+void Face::synchronize() {
+  if (runtime_.ended()) {
+    over_ = true;
+    QCoreApplication::quit();
+    return;
+  }
+  showOpened();
+  hideClosed();
+}
+
+void Face::hideClosed() {
+  for (const auto& [name, window] : windows_) {
+    const Form* const shown = form(name);
+    if (window->isVisible() && (shown == nullptr || !shown->Visible)) {
+      if (takesTurns(name)) rememberPlace(*window);
+      window->hide();
+    }
+  }
+}
+
+void Face::showOpened() {
+  for (const std::string& name : runtime_.loaded()) {
+    Form& shown = *form(name);
+    if (!shown.Visible) continue;
+    auto& window = windows_[name];
+    if (!window) {
+      window = std::make_unique<FormWindow>(name, shown, pictures_, events());
+    } else if (window->form() != &shown) {
+      window->bind(shown);
+    } else {
+      window->mirrorAll();
+    }
+    if (window->isVisible()) continue;
+    place(name, *window);
+    window->show();
+    window->raise();
+    window->activateWindow();
+    window->focusFirst();
+  }
+}
+
+void Face::rememberPlace(const FormWindow& window) { lastPlace_ = window.geometry().topLeft(); }
+
+// A screen appears where the last one stood. The title keeps to the top and the first screen to the
+// bottom, so that neither hides the other; the sheet opens at the right edge.
+void Face::place(const std::string& name, FormWindow& window) {
+  for (const auto& [other, open] : windows_) {
+    if (takesTurns(name) && takesTurns(other) && open && open->isVisible()) rememberPlace(*open);
+  }
+  const QRect screen = window.screen()->availableGeometry();
+  const QSize size = window.size();
+  QPoint corner = screen.center() - QPoint(size.width() / 2, size.height() / 2);
+  if (name == "Brolgan") corner.setY(screen.top());
+  if (name == "Main") corner.setY(screen.bottom());
+  if (name == "FHero") corner = {screen.right() - size.width() - 24, screen.top() + 48};
+  if (takesTurns(name) && lastPlace_) corner = *lastPlace_;
+  const QRect room = screen.adjusted(kFrameSide, kFrameTop, -kFrameSide, -kFrameSide);
+  corner.setX(std::max(room.left(), std::min(corner.x(), room.right() - size.width() + 1)));
+  corner.setY(std::max(room.top(), std::min(corner.y(), room.bottom() - size.height() + 1)));
+  window.setGeometry(QRect(corner, size));
+}
+
+FormWindow::Events Face::events() {
+  FormWindow::Events events;
+  events.click = [this](const std::string& name, std::size_t index) {
+    Form* const target = form(name);
+    if (target != nullptr) act([&] { click(runtime_, *target, entryOf(*target, index)); });
+  };
+  events.select = [this](const std::string& name, std::size_t index, int row) {
+    Form* const target = form(name);
+    if (target != nullptr) act([&] { select(runtime_, entryOf(*target, index), row); });
+  };
+  events.type = [this](const std::string& name, std::size_t index, const QString& text) {
+    Form* const target = form(name);
+    if (target != nullptr) type(entryOf(*target, index), text.toStdString());
+  };
+  events.close = [this](const std::string& name) { act([&] { closeWindow(runtime_, name); }); };
+  return events;
+}
+
+}  // namespace brolgan::desktop

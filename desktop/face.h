@@ -1,0 +1,52 @@
+// The face of the game: shows the loaded forms as windows, passes on what a person does to them,
+// and is the one place where a run-time error is caught.
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "desktop/form_window.h"
+#include "flow/services/runtime.h"
+
+namespace brolgan::desktop {
+
+class PictureStore;
+
+class Face : public QObject {
+ public:
+  Face(Runtime& runtime, PictureStore& pictures);
+  ~Face() override;
+
+  // Opens the start form and with it the game.
+  void start();
+
+  // The window of a form, null when it was never shown.
+  [[nodiscard]] FormWindow* window(const std::string& name) const;
+
+  // Tells of an error when the box is not to be shown on the screen; for tests.
+  std::function<void(const QString&)> onError;
+
+ private:
+  void act(const std::function<void()>& doing);
+  void fail(const char* text);
+  void synchronize();
+  void hideClosed();
+  void showOpened();
+  void place(const std::string& name, FormWindow& window);
+  void rememberPlace(const FormWindow& window);
+  FormWindow::Events events();
+  Form* form(const std::string& name) const { return runtime_.find(name); }
+
+  Runtime& runtime_;
+  PictureStore& pictures_;
+  std::map<std::string, std::unique_ptr<FormWindow>> windows_;
+  std::optional<QPoint> lastPlace_;
+  bool over_ = false;
+};
+
+}  // namespace brolgan::desktop

@@ -1,0 +1,68 @@
+// The window of one form: one widget a control, under the control's name, laid out by the form's
+// layout. It outlives the form that it shows, so that a screen which opens again needs no new
+// widgets; show() binds it to the form that is loaded now.
+#pragma once
+
+#include <QPixmap>
+#include <QPoint>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "flow/services/form.h"
+
+namespace brolgan::desktop {
+
+class PictureStore;
+
+class FormWindow : public QWidget {
+ public:
+  // What a person did in a window, to be done to the game.
+  struct Events {
+    std::function<void(const std::string& form, std::size_t entry)> click;
+    std::function<void(const std::string& form, std::size_t entry, int row)> select;
+    std::function<void(const std::string& form, std::size_t entry, const QString& text)> type;
+    std::function<void(const std::string& form)> close;
+  };
+
+  FormWindow(std::string name, Form& form, PictureStore& pictures, const Events& events);
+
+  // Shows another form of the same kind from now on, as fresh as it was loaded.
+  void bind(Form& form);
+  [[nodiscard]] const Form* form() const { return form_; }
+
+  // Makes every widget like its control.
+  void mirrorAll();
+  // Puts the keyboard where a person starts.
+  void focusFirst();
+
+  // For the layouts: the widget of a control, by its full name. The control must exist.
+  [[nodiscard]] QWidget& at(const std::string& fullName) const;
+  [[nodiscard]] QWidget& at(const std::string& name, int index) const;
+  [[nodiscard]] bool has(const std::string& fullName) const { return widgets_.contains(fullName); }
+  [[nodiscard]] PictureStore& pictures() const { return pictures_; }
+  // A picture behind all controls, scaled to the window.
+  void setBackground(const QString& pictureName) { background_ = pictureName; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void makeWidgets(const Events& events);
+  void orderTabs();
+  [[nodiscard]] QWidget* parentOf(const ControlEntry& entry);
+
+  std::string name_;
+  Form* form_;
+  PictureStore& pictures_;
+  std::function<void(const std::string&)> close_;
+  std::map<std::string, QWidget*> widgets_;
+  std::map<std::string, QWidget*> frames_;
+  std::vector<QWidget*> inOrder_;
+  QString background_;
+};
+
+}  // namespace brolgan::desktop

@@ -1,0 +1,47 @@
+// The title: two pictures side by side, or one above the other in a tall window, on black.
+#include <QResizeEvent>
+
+#include "desktop/layouts/grid.h"
+#include "desktop/layouts/layouts.h"
+
+namespace brolgan::desktop {
+
+namespace {
+
+// Turns the row of pictures into a column when the window is taller than wide.
+class Turner : public QObject {
+ public:
+  Turner(QBoxLayout& row, QWidget& window) : QObject(&window), row_(row) { window.installEventFilter(this); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Resize) {
+      const QSize size = static_cast<QResizeEvent*>(event)->size();
+      row_.setDirection(size.width() >= size.height() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  QBoxLayout& row_;
+};
+
+}  // namespace
+
+void layOutTitle(FormWindow& window) {
+  QPalette palette = window.palette();
+  palette.setColor(QPalette::Window, theme::kInk);
+  window.setPalette(palette);
+  auto* row = new QBoxLayout(QBoxLayout::LeftToRight, &window);
+  row->setContentsMargins(8, 8, 8, 8);
+  row->setSpacing(8);
+  for (int i = 0; i < 2; ++i) {
+    QWidget& picture = window.at("pics", i);
+    picture.setMinimumSize(160, 100);
+    picture.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    row->addWidget(&picture, 1);
+  }
+  new Turner(*row, window);
+  window.resize(1304, 420);
+}
+
+}  // namespace brolgan::desktop

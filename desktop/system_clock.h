@@ -1,0 +1,13 @@
+// The time of day of this machine.
+#pragma once
+
+#include "flow/services/outside.h"
+
+namespace brolgan::desktop {
+
+class SystemClock : public Clock {
+ public:
+  double timer() override;
+};
+
+}  // namespace brolgan::desktop

@@ -1,0 +1,91 @@
+#include "desktop/widgets.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+#include <utility>
+
+#include "desktop/picture_store.h"
+#include "desktop/theme.h"
+
+namespace brolgan::desktop {
+
+namespace {
+
+void drawPicture(QWidget& widget, PictureStore& pictures, const QString& name, QRect area) {
+  if (name.isEmpty() || area.isEmpty()) return;
+  const qreal ratio = widget.devicePixelRatioF();
+  QPixmap picture = pictures.pixmap(name, (QSizeF(area.size()) * ratio).toSize());
+  if (picture.isNull()) return;
+  picture.setDevicePixelRatio(ratio);
+  const QSizeF size = QSizeF(picture.size()) / ratio;
+  QPainter painter(&widget);
+  if (!widget.isEnabled()) painter.setOpacity(0.4);
+  painter.drawPixmap(
+      QPointF(area.x() + (area.width() - size.width()) / 2, area.y() + (area.height() - size.height()) / 2), picture);
+}
+
+}  // namespace
+
+ClickLabel::ClickLabel(std::function<void()> click, QWidget* parent) : QLabel(parent), click_(std::move(click)) {
+  setFocusPolicy(Qt::StrongFocus);
+  setCursor(Qt::PointingHandCursor);
+}
+
+void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) click_();
+}
+
+void ClickLabel::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    click_();
+  } else {
+    QLabel::keyPressEvent(event);
+  }
+}
+
+void ClickLabel::paintEvent(QPaintEvent* event) {
+  QLabel::paintEvent(event);
+  if (!hasFocus()) return;
+  QPainter painter(this);
+  painter.setPen(QPen(theme::kFocus, 2));
+  painter.drawRect(rect().adjusted(1, 1, -1, -1));
+}
+
+ClickEdit::ClickEdit(std::function<void()> click, QWidget* parent) : QLineEdit(parent), click_(std::move(click)) {}
+
+void ClickEdit::mouseReleaseEvent(QMouseEvent* event) {
+  QLineEdit::mouseReleaseEvent(event);
+  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) click_();
+}
+
+PictureWidget::PictureWidget(PictureStore& pictures, QWidget* parent) : QLabel(parent), pictures_(pictures) {}
+
+void PictureWidget::setName(const QString& name) {
+  if (name == name_) return;
+  name_ = name;
+  update();
+}
+
+void PictureWidget::paintEvent(QPaintEvent*) { drawPicture(*this, pictures_, name_, contentsRect()); }
+
+PictureButton::PictureButton(PictureStore& pictures, const QString& name, QWidget* parent)
+    : QAbstractButton(parent), pictures_(pictures), name_(name) {
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_Hover);
+}
+
+void PictureButton::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const bool lit = isEnabled() && (underMouse() || isDown());
+  painter.setPen(QPen(hasFocus() ? theme::kFocus : theme::kInk, hasFocus() ? 3 : 1.5));
+  painter.setBrush(lit ? theme::kButtonHover : theme::kButton);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 5, 5);
+  painter.end();
+  const int shift = isDown() ? 1 : 0;
+  drawPicture(*this, pictures_, name_, rect().adjusted(6 + shift, 6 + shift, -6 + shift, -6 + shift));
+}
+
+}  // namespace brolgan::desktop

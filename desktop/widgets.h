@@ -1,0 +1,70 @@
+// The few kinds of widgets that Qt does not have as the game needs them.
+#pragma once
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <functional>
+
+namespace brolgan::desktop {
+
+class PictureStore;
+
+// A label that can be clicked, with the mouse or, since it takes the focus, with the keyboard.
+class ClickLabel : public QLabel {
+ public:
+  ClickLabel(std::function<void()> click, QWidget* parent);
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  std::function<void()> click_;
+};
+
+// A text box that can also be clicked; the keyboard edits it without a click.
+class ClickEdit : public QLineEdit {
+ public:
+  ClickEdit(std::function<void()> click, QWidget* parent);
+
+ protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  std::function<void()> click_;
+};
+
+// Shows a picture file as large as fits, in the middle.
+class PictureWidget : public QLabel {
+ public:
+  PictureWidget(PictureStore& pictures, QWidget* parent);
+
+  void setName(const QString& name);
+  [[nodiscard]] const QString& name() const { return name_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  PictureStore& pictures_;
+  QString name_;
+};
+
+// A button whose face is a picture.
+class PictureButton : public QAbstractButton {
+ public:
+  PictureButton(PictureStore& pictures, const QString& name, QWidget* parent);
+
+  [[nodiscard]] QSize sizeHint() const override { return {48, 48}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  PictureStore& pictures_;
+  QString name_;
+};
+
+}  // namespace brolgan::desktop
