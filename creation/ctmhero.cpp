@@ -51,7 +51,7 @@ void CTmhero::Form_Load() {
   Bron_Lista();
 }
 
-// MEANT: taking the points of "Satrapa" back is not guarded, so the budget may go below 0.
+// MEANT(negative-budget): taking the points of "Satrapa" back is not guarded, so the budget may go below 0.
 void CTmhero::Klasa_Click(int index) {
   if (index == kSatrap && !SatrapaDodane) {
     SatrapaDodane = true;
@@ -115,13 +115,13 @@ void CTmhero::sell(bool& owned, Integer price, Label& mark) {
   mark.ForeColor = Colour::buttonText;
 }
 
-// MEANT: the selection starts at 0, so a sale before any click is of the starting weapon.
+// MEANT(sale-unclicked): the selection starts at 0, so a sale before any click is of the starting weapon.
 void CTmhero::Sprzedajww_Click() {
   if (!bohater.MaBronww(WybranaWw)) return;
   sell(bohater.MaBronww(WybranaWw), katalog.KatalogWw(WybranaWw).cena, BWnazwa);
 }
 
-// MEANT: the sale of a ranged weapon tests the ranged flag at the melee selection, so it can pay
+// MEANT(sale-by-melee): the sale of a ranged weapon tests the ranged flag at the melee selection, so it can pay
 // for one weapon again and again, and refuse another that is owned.
 void CTmhero::Sprzedajss_Click() {
   if (!bohater.MaBronss(WybranaWw)) return;
@@ -182,7 +182,7 @@ void CTmhero::writeBeginning(ItemWriter& out) {
   out.integer(ladderValue(kLives, bohater.Poziomy(kLives)));
 }
 
-// MEANT: a class's bonus stands on all ten weapons of its kind, owned or not.
+// MEANT(bonus-on-all): a class's bonus stands on all ten weapons of its kind, owned or not.
 void CTmhero::writeWeapons(ItemWriter& out) {
   const ClassRow& grants = kClassTable[chosenClass()];
   for (int i = 0; i < 10; ++i) {
@@ -195,7 +195,7 @@ void CTmhero::writeWeapons(ItemWriter& out) {
   writeRanged(out, bohater);
 }
 
-// MEANT: five gear flags and sixteen zeros stand where readers take four flags and seventeen
+// MEANT(fifth-flag-written): five gear flags and sixteen zeros stand where readers take four flags and seventeen
 // counters; the fifth flag lies on the line of the first counter and reads as 0 there.
 void CTmhero::writeGoods(ItemWriter& out) {
   writeFlags(out, bohater.MaCzar);

@@ -144,7 +144,7 @@ void DevelopmentForm::Lbronss_Click() {
   markOwned(BSnazwa, bohater.MaBronss(WybranaSs));
 }
 
-// MEANT: the selection starts at 0, so a purchase before any click is of the first weapon.
+// MEANT(purchase-unclicked): the selection starts at 0, so a purchase before any click is of the first weapon.
 void DevelopmentForm::buyWeapon(const Desk& desk) {
   buy(desk.owned(desk.chosen), desk.weapon().cena.value(), desk.nazwa);
 }

@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
+#include <QStyle>
 #include <utility>
 
 #include "desktop/picture_store.h"
@@ -45,10 +45,12 @@ void ClickLabel::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-void ClickLabel::paintEvent(QPaintEvent* event) {
-  QLabel::paintEvent(event);
-  if (!hasFocus()) return;
+// Draws the text itself: a label that takes the focus would set it higher than its neighbours.
+void ClickLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(), text(),
+                        foregroundRole());
+  if (!hasFocus()) return;
   painter.setPen(QPen(theme::kFocus, 2));
   painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }

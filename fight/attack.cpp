@@ -15,10 +15,10 @@ void Fight::Atak_Click() {
   Zabici();
 }
 
-// MEANT: the distance is never far, and still it is asked.
+// MEANT(always-near): the distance is never far, and still it is asked.
 bool Fight::mayStrike() const { return RodzajBroni == kMelee && Blisko && MozeBic && (MozeRzucac || isStaff()); }
 
-// MEANT: a staff is known by its place in the catalogue, not by its flag.
+// MEANT(staff-by-place): a staff is known by its place in the catalogue, not by its flag.
 bool Fight::isStaff() const { return WybranaBron >= kFirstStaff && WybranaBron <= kLastStaff; }
 
 void Fight::strike() {
@@ -80,7 +80,7 @@ void Fight::fireCannon() {
   Przeladowanie = true;
 }
 
-// MEANT: neither the percent and flat bonus of a ranged weapon nor the hero's strength count.
+// MEANT(idle-ranged-bonus): neither the percent and flat bonus of a ranged weapon nor the hero's strength count.
 void Fight::fire() {
   play(katalog.KatalogSs(WybranaBron).dzwiek);
   grow(bohater.BronssProc(WybranaBron), 140, 86);
@@ -102,7 +102,7 @@ void Fight::suckArmour() {
   Mstat[1].Caption = decimal(targetArmour());
 }
 
-// MEANT: the die has ten faces but its first comes up once in eighteen.
+// MEANT(rare-price): the die has ten faces but its first comes up once in eighteen.
 void Fight::payForUltiGun() {
   if (Bron.Text() != kUltiGun) return;
   if (Rzut(runtime_.random(), 1, 10) != 1) return;
@@ -127,7 +127,7 @@ void Fight::ZadajObrazenia(Integer damage) {
   carryOn();
 }
 
-// MEANT: only the target's armour is taken off; the others get the same.
+// MEANT(spread-past-armour): only the target's armour is taken off; the others get the same.
 void Fight::spread(Integer harm) {
   if (katalog.KatalogSs(WybranaBron).wszyscy != 2) return;
   for (int i = 0; i < Ostatni.value(); ++i) PotworZycie(i) -= harm;

@@ -22,7 +22,7 @@ Fight::Fight(Runtime& runtime) : SFX(runtime.sounds(), "SFX"), runtime_(runtime)
   CloseDMG.Click = [this] { CloseDMG_Click(); };
 }
 
-// MEANT: the first strike comes before the selections are restored and any figure is shown.
+// MEANT(early-strike): the first strike comes before the selections are restored and any figure is shown.
 void Fight::Form_Load() {
   runtime_.Randomize();
   Fight_Load();
@@ -115,7 +115,7 @@ void Fight::Statystyki() {
   Potwór.Picture = runtime_.LoadPicture(PotworObraz);
 }
 
-// MEANT: a ranged weapon shows its percent and flat bonus, though its damage never uses them.
+// MEANT(shown-ranged-bonus): a ranged weapon shows its percent and flat bonus, though its damage never uses them.
 std::string Fight::damageText() const {
   const auto bonuses = [](Integer plus, Integer percent) { return "+" + str(plus) + "+" + str(percent) + "%"; };
   if (Bron.Text().empty()) return OpisKosci(bohater.MO);

@@ -142,7 +142,7 @@ class Fight : public Form {
   std::string PlikBohatera;
   Integer PotworPierwszy;
   Integer BonusPancerza;
-  // Read and never looked at: the item it comes from protects nobody in the fight.
+  // MEANT(no-immortality): read and never looked at; the item protects nobody in the fight.
   Integer RundyNiesmiertelnosci;
   Integer IlePotworow;
   std::string PotworNazwa;

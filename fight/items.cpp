@@ -25,13 +25,13 @@ void Fight::useGrenade() {
   }
 }
 
-// MEANT: the figure stands behind those of the last attack, and nobody of the group can fall.
+// MEANT(own-grenade): the figure stands behind those of the last attack, and nobody of the group can fall.
 void Fight::hurtThrower() {
   const Integer harm = Rzuty(runtime_.random(), 1, 30, 1) - bohater.Wartosci(kArmour) - BonusPancerza - Pancerz3A;
   suffer(harm);
 }
 
-// MEANT: the target's armour counts for the whole group.
+// MEANT(grenade-armour): the target's armour counts for the whole group.
 void Fight::hurtGroup(Integer roll) {
   if (bohater.MaSpec(kMortar)) roll += 8;
   const Integer harm = roll - targetArmour();
@@ -46,7 +46,7 @@ void Fight::hurtGroup(Integer roll) {
   Zabici();
 }
 
-// Costs no action; a second round before a shot is spent for nothing.
+// MEANT(one-ammo): costs no action, and a second one before a shot is spent for nothing.
 void Fight::useAmmo() {
   play("specammo.wav");
   AmmoGotowe = true;

@@ -9,7 +9,7 @@
 
 namespace brolgan {
 
-// MEANT: a fallen hero may press it too; the monsters strike again and he stays fallen.
+// MEANT(fallen-goes-on): a fallen hero may press it too; the monsters strike again and he stays fallen.
 void Fight::NastTura_Click() {
   if (PotworZycie(0) < 1 || Ostatni < 0) {
     KoniecWalki();
@@ -76,7 +76,8 @@ void Fight::suffer(Integer harm) {
   OpisDMG.Caption = kDeath;
 }
 
-// Takes the fallen off the group and announces its end. Writes the report without showing it.
+// MEANT(silent-report): writes the report without showing its frame.
+// Takes the fallen off the group and announces its end.
 void Fight::Zabici() {
   while (Ostatni >= 0 && targetLife() <= 0) {
     OpisZad.Caption = "Zabity!";
@@ -133,7 +134,7 @@ void Fight::KoniecWalki() {
   openShop();
 }
 
-// MEANT: the hero file stays as the moment of death left it, with one life more than he has.
+// MEANT(life-too-many): the hero file stays as the moment of death left it, with one life more than he has.
 void Fight::leaveGame(const PlayerOrder& order) {
   if (order.count <= 1) {
     runtime_.End();

@@ -29,7 +29,7 @@ void Fight::Czar_Click() {
   mana.Enabled = spell == kBullShotsSpell;
 }
 
-// MEANT: a Berserker's button looks live and does nothing.
+// MEANT(berserker-cast): a Berserker's button looks live and does nothing.
 void Fight::Rzuc_Click() {
   if (isClass(bohater.Klasa, kBerserker) || !MozeRzucac) return;
   const std::string spell = Czar.Text();
@@ -101,7 +101,7 @@ double Fight::typedMagic() const {
   return *number;
 }
 
-// MEANT: the harm to the others is under no test, so a target whose armour stops the shots makes
+// MEANT(negative-spread): the harm to the others is under no test, so a target whose armour stops the shots makes
 // them gain endurance; and the weapon's sound is of the melee catalogue whatever is selected.
 void Fight::spreadBullShots(Integer damage) {
   const Integer harm = damage - targetArmour();

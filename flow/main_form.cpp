@@ -21,7 +21,7 @@ Main::Main(Runtime& runtime) : runtime_(runtime) {
 
 void Main::Form_Load() { runtime_.Randomize(); }
 
-// The "+" goes up before the player has finished his hero, and it is the flag itself.
+// MEANT(early-plus): the "+" goes up before the player has finished his hero, and it is the flag itself.
 void Main::gracz_Click(int index) {
   if (index != 0 && !takesPart(index - 1)) return;
   ItemWriter out = runtime_.OpenForOutput(kMakeHeroFile);
@@ -39,7 +39,7 @@ void Main::GraczM_Click(int index) {
   gracz_Click(index);
 }
 
-// MEANT: the first shop always opens "hero1.boh", whatever the first box says.
+// MEANT(first-shop): the first shop always opens "hero1.boh", whatever the first box says.
 void Main::Start_Click() {
   const int count = playersTakingPart();
   if (count < 1) return;

@@ -80,7 +80,7 @@ void Prefight::Przedmioty_Lista() {
   }
 }
 
-// A counter that is used up once, whatever it said.
+// MEANT(one-head-start): the counter is used up at once, whatever it said.
 void Prefight::applyHeadStart() {
   if (bohater.Przedmioty(kHeadStartCounter) <= 0) return;
   Inic.Caption = decimal(wholeNumber(Inic.Caption) + kHeadStart);
@@ -134,7 +134,7 @@ void Prefight::useBar() {
   note("Spożyłem Krzepiący Baton");
 }
 
-// MEANT: the lamp costs a use and does nothing else.
+// MEANT(idle-lamp): the lamp costs a use and does nothing else.
 void Prefight::useLamp() {
   spend(kLampCounter);
   Inic.Caption = decimal(Inicjatywa);
@@ -158,7 +158,7 @@ void Prefight::Czary_Lista() {
   if (bohater.Przedmioty(kStrongHealingCounter) >= 1) Czary.AddItem(kStrongHealingSpell);
 }
 
-// The cost is shown only; what is typed over it changes nothing.
+// MEANT(cost-shown-only): what is typed over the cost changes nothing.
 void Prefight::Czary_Click() {
   const std::string spell = Czary.Text();
   Koszt.Text = "0";
@@ -220,7 +220,7 @@ void Prefight::Player_Save() {
   out.close();
 }
 
-// A tie in speed goes to the monster.
+// MEANT(tie-to-monster): a tie in speed goes to the monster.
 void Prefight::Fight_Start() {
   const Potwor& monster = Potwory(NrPotwora);
   const Integer monsterFirst = Inicjatywa > monster.Szybkosc ? 0 : 1;

@@ -16,7 +16,7 @@ Integer witcherBonus(Integer speed) { return toInteger(speed.value() / 3.4); }
 
 Integer wizardRegain(Integer regeneration) { return toInteger(regeneration.value() / 3.5); }
 
-// MEANT: the monster's dodatek and endurance do not count.
+// MEANT(reward-omits): the monster's dodatek and endurance do not count.
 double reward(std::string_view klasa, Integer groupSize, const Kostka& attack, Integer armour) {
   const double g = (groupSize - 1).value() * 0.33 + 1;
   const double average = (attack.kmin + attack.kmax).value() / 2.0;

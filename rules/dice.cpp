@@ -4,6 +4,7 @@
 
 namespace brolgan {
 
+// MEANT(half-faces): rounding gives the two extreme faces half the width of the others.
 Integer Rzut(RandomSource& random, Integer kmin, Integer kmax) {
   const auto span = static_cast<float>(kmax.value() - kmin.value());
   const float x = random.next() * span + static_cast<float>(kmin.value());
@@ -20,7 +21,7 @@ Integer Rzuty(RandomSource& random, const Kostka& kostka) {
   return Rzuty(random, kostka.kmin, kostka.kmax, kostka.kile);
 }
 
-// MEANT: the two forms differ in their blanks, and a negative dodatek is not shown.
+// MEANT(dice-text): the two forms differ in their blanks, and a negative dodatek is not shown.
 std::string OpisKosci(const Kostka& kostka) {
   if (kostka.kile <= 0) return {};
   if (kostka.dodatek > 0) {

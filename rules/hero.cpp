@@ -90,7 +90,7 @@ void readWeapons(ItemReader& in, Bohater& hero) {
   readSlots(in, {hero.MaBronss, hero.BronssProc, hero.BronssPlus, "MaBronss", "BronssProc", "BronssPlus"});
 }
 
-// MEANT: a new hero has a fifth gear flag on the line of the first counter; as a word it reads as 0.
+// MEANT(fifth-flag-read): a new hero has a fifth gear flag on the line of the first counter; as a word it reads as 0.
 void readGoods(ItemReader& in, Bohater& hero) {
   readFlags(in, hero.MaCzar, "MaCzar");
   readIntegers(in, hero.Wyp, "Wyp");

@@ -44,6 +44,7 @@ void FHero::listWeapons() {
   }
 }
 
+// MEANT(nameless-kill): a kill beyond the list shows an empty name.
 void FHero::listKills() {
   for (int i = 0; i < bohater.Stwory.size; ++i) {
     if (bohater.Stwory(i) > 0) Stwory.AddItem(Potwory(i).Nazwa + " (" + decimal(bohater.Stwory(i)) + ")");

@@ -54,7 +54,7 @@ void CTsklep::Sklep_Load() {
   readHero(runtime_.OpenForInput(Plik.Text));
 }
 
-// Any mode but the four leaves all departments open.
+// MEANT(odd-mode): any mode but the four leaves all departments open.
 void CTsklep::openDepartments(Integer mode) {
   const bool chosenOne = mode >= 2 && mode <= 4;
   fstat.Visible = !chosenOne || mode == 2;
@@ -129,7 +129,7 @@ void CTsklep::zone_Click(const Strefa& zone) {
   Save_Click();
 }
 
-// The leaving routine. Its button is never shown; only the zones call it.
+// MEANT(hidden-save): the leaving routine; its button is never shown; only the zones call it.
 void CTsklep::Save_Click() {
   ItemWriter out = runtime_.OpenForOutput(Plik.Text);
   writeBeginning(out);
@@ -153,7 +153,7 @@ void CTsklep::writeBeginning(ItemWriter& out) {
   out.integer(bohater.AktMoc);
 }
 
-// MEANT: values come from the ladders and the modifier's dice from its step, whatever the file
+// MEANT(values-from-ladders): values come from the ladders and the modifier's dice from its step, whatever the file
 // said; only the endurance lost for good is kept.
 void CTsklep::writeStatistics(ItemWriter& out) {
   out.integer(bohater.Poziomy(kEndurance));

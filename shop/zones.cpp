@@ -2,7 +2,7 @@
 
 namespace brolgan {
 
-// MEANT: the zones overlap, are not of equal width, and "Pandoria" spans the whole list.
+// MEANT(overlapping-zones): the zones overlap, are not of equal width, and "Pandoria" spans the whole list.
 const std::array<Strefa, 12> kZones = {{
     {"Jaskinia małych", 1, 5},
     {"Jama średnich", 4, 9},

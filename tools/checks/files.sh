@@ -1,0 +1,8 @@
+#!/bin/sh
+# What can be told from the files alone: format, pictures against their sources, the ledger of
+# assets, and the list of odd rules.
+set -eu
+git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run -Werror
+python3 assets/pictures/render.py --check
+python3 tools/checks/assets.py
+python3 tools/checks/quirks.py

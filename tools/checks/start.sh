@@ -1,0 +1,22 @@
+#!/bin/sh
+# The game as it is played starts, shows its first window, and ends when the title is closed.
+set -eu
+mkdir -p build
+cmake --preset release >build/release.log 2>&1 && cmake --build --preset release >>build/release.log 2>&1 || {
+  tail -n 60 build/release.log
+  exit 1
+}
+tools/setup/run_virtual.sh build/release/gra >build/start.log 2>&1 &
+running=$!
+waited=0
+until grep -q 'first screenshot' build/start.log; do
+  waited=$((waited + 1))
+  [ $waited -le 300 ] && kill -0 $running 2>/dev/null || { cat build/start.log; exit 1; }
+  sleep 0.1
+done
+DISPLAY=$(sed -n 's/.*virtual one (\(.*\))\..*/\1/p' build/start.log)
+export DISPLAY
+wmctrl -F -c 'Brolgan XP version'
+wait $running
+test -s build/release/gra/pierwszy-ekran.png
+echo "the game starts and ends"

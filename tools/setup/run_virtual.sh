@@ -1,0 +1,37 @@
+#!/bin/sh
+# run_virtual.sh FOLDER: starts the game of that folder on a virtual display, says where its first
+# screenshot lies, and waits for the end of the game.
+set -eu
+cd "$1"
+picture=$PWD/pierwszy-ekran.png
+rm -f "$picture"
+
+number=$(mktemp)
+Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$number" >/dev/null 2>&1 &
+server=$!
+trap 'kill $server 2>/dev/null; rm -f "$number"' EXIT INT TERM
+waited=0
+until [ -s "$number" ]; do
+  waited=$((waited + 1))
+  [ $waited -le 100 ] || { echo "The virtual display does not start." >&2; exit 1; }
+  sleep 0.1
+done
+DISPLAY=:$(cat "$number")
+export DISPLAY
+openbox >/dev/null 2>&1 &
+
+./brolgan &
+game=$!
+waited=0
+until xwininfo -root -tree 2>/dev/null | grep -q '"MainGame"'; do
+  waited=$((waited + 1))
+  kill -0 $game 2>/dev/null || { echo "The game ended before it showed a window." >&2; exit 1; }
+  [ $waited -le 200 ] || { echo "The game shows no window." >&2; exit 1; }
+  sleep 0.1
+done
+sleep 1
+import -window root "$picture"
+echo "There is no display, so the game runs on a virtual one ($DISPLAY)."
+echo "Its first screenshot: $picture"
+echo "Stop it with Ctrl+C."
+wait $game
