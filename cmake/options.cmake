@@ -7,6 +7,8 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 option(BROLGAN_FACE "Build the desktop face (needs Qt 6)" ON)
 option(BROLGAN_SOUND "Build the face with sound (needs SDL2)" ON)
 option(BROLGAN_TESTS "Build the tests" ON)
+option(BROLGAN_BENCH "Build the measurements" OFF)
+option(BROLGAN_FUZZ "Build the fuzzers (needs clang)" OFF)
 option(BROLGAN_SANITIZE "Check addresses and undefined behaviour while running" OFF)
 option(BROLGAN_COVERAGE "Count the lines that run" OFF)
 

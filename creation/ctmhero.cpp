@@ -168,7 +168,7 @@ void CTmhero::Save_Click() {
 
 void CTmhero::writeBeginning(ItemWriter& out) {
   out.string(Imie.Text);
-  out.integer(toInteger(static_cast<double>(points())));
+  out.rounded(static_cast<double>(points()), "Ile_jeszcze");
   out.string(Klasa[chosenClass()].Caption);
   out.integer(ladderValue(kEndurance, bohater.Poziomy(kEndurance)));
   out.integer(ladderValue(kPower, bohater.Poziomy(kPower)));
@@ -199,7 +199,7 @@ void CTmhero::writeWeapons(ItemWriter& out) {
 // counters; the fifth flag lies on the line of the first counter and reads as 0 there.
 void CTmhero::writeGoods(ItemWriter& out) {
   writeFlags(out, bohater.MaCzar);
-  for (const Label& supply : wyp) out.integer(toInteger(static_cast<double>(number(supply))));
+  writeSupplies(out);
   writeFlags(out, MaSpec);
   for (int i = 1; i < bohater.Przedmioty.size; ++i) out.integer(0);
 }

@@ -98,6 +98,10 @@ void DevelopmentForm::addSupply(int supply) {
   setPoints(points() - kSupplyPrice);
 }
 
+void DevelopmentForm::writeSupplies(ItemWriter& out) const {
+  for (int i = 0; i < kSupplies; ++i) out.rounded(static_cast<double>(number(wyp[i])), {"Wyp", i});
+}
+
 bool DevelopmentForm::buy(bool& owned, std::int64_t price, Label& mark) {
   if (owned || points() < price) return false;
   setPoints(points() - price);

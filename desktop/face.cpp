@@ -113,7 +113,7 @@ void Face::place(const std::string& name, FormWindow& window) {
     if (takesTurns(name) && takesTurns(other) && open && open->isVisible()) rememberPlace(*open);
   }
   const QRect screen = window.screen()->availableGeometry();
-  const QSize size = window.size();
+  const QSize size = window.size().expandedTo(window.minimumSizeHint());
   QPoint corner = screen.center() - QPoint(size.width() / 2, size.height() / 2);
   if (name == "Brolgan") corner.setY(screen.top());
   if (name == "Main") corner.setY(screen.bottom());

@@ -58,6 +58,8 @@ QPushButton:disabled { background: #eceae0; border-color: #a39b88; color: #7d776
   border-right-width: 2px; }
 QPushButton[narrow="true"] { padding: 0px; border-bottom-width: 3px; border-right-width: 2px; }
 QFrame[panel="true"] { background: #f8f1de; border: 2px solid #1c1714; border-radius: 6px; }
+QLabel[badge="true"] { background: #1c1714; color: #fff6dc; border: 3px solid #f3e6c8; border-radius: 26px;
+  min-width: 46px; min-height: 46px; max-height: 46px; }
 QGroupBox { background: #f8f1de; border: 2px solid #1c1714; border-radius: 6px; margin-top: 12px; font-weight: bold; }
 QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 6px; background: #f8f1de;
   border: 2px solid #1c1714; border-radius: 4px; }

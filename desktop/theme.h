@@ -18,8 +18,6 @@ inline const QColor kPanel("#f8f1de");
 inline const QColor kButton("#f3e6c8");
 inline const QColor kButtonHover("#fff6dc");
 inline const QColor kDisabledText("#7d7768");
-// Current endurance, magic and lives in the shop.
-inline const QColor kCurrent("#00660a");
 inline const QColor kFocus("#2f6f6b");
 
 // Gives the application its palette, fonts and style sheet.

@@ -137,7 +137,7 @@ void CTsklep::Save_Click() {
   writeMelee(out, bohater);
   writeRanged(out, bohater);
   writeGoods(out);
-  out.integer(bohater.Tura + 1);
+  out.rounded(bohater.Tura.value() + 1, "Tura");
   writeLastChoices(out, bohater);
   writeKills(out, bohater);
   out.close();
@@ -147,7 +147,7 @@ void CTsklep::Save_Click() {
 void CTsklep::writeBeginning(ItemWriter& out) {
   out.string(Imie.Text);
   if (isClass(bohater.Klasa, kGambler)) setPoints(0);
-  out.integer(toInteger(static_cast<double>(points())));
+  out.rounded(static_cast<double>(points()), "Ile_jeszcze");
   out.string(bohater.Klasa);
   out.integer(bohater.AktWytrzymalosc);
   out.integer(bohater.AktMoc);
@@ -157,7 +157,8 @@ void CTsklep::writeBeginning(ItemWriter& out) {
 // said; only the endurance lost for good is kept.
 void CTsklep::writeStatistics(ItemWriter& out) {
   out.integer(bohater.Poziomy(kEndurance));
-  out.integer(ladderValue(kEndurance, bohater.Poziomy(kEndurance)) - UbytekWytrzymalosci);
+  const Integer value = ladderValue(kEndurance, bohater.Poziomy(kEndurance));
+  out.rounded(value.value() - UbytekWytrzymalosci.value(), {"Wartosci", kEndurance});
   for (const Statistic statistic : {kArmour, kPower, kSpeed, kRegeneration}) {
     out.integer(bohater.Poziomy(statistic));
     out.integer(ladderValue(statistic, bohater.Poziomy(statistic)));
@@ -170,7 +171,7 @@ void CTsklep::writeStatistics(ItemWriter& out) {
 
 void CTsklep::writeGoods(ItemWriter& out) {
   writeFlags(out, bohater.MaCzar);
-  for (const Label& supply : wyp) out.integer(toInteger(static_cast<double>(number(supply))));
+  writeSupplies(out);
   writeFlags(out, bohater.MaSpec);
   writeItems(out, bohater);
 }

@@ -20,7 +20,7 @@ class CTsklep : public DevelopmentForm {
   Label Tura{"1"};
   CommandButton Heroshow{.Picture = "arkusz.png"};
   std::array<PictureBox, 5> pics;
-  std::array<Label, 3> akt{Label{"50"}, Label{"50"}, Label{"50"}};
+  std::array<Label, 3> akt{Label{"50", Colour::green}, Label{"50", Colour::green}, Label{"50", Colour::green}};
   CommandButton w1, w2, w3, w4, w5, w6, w7, w8, w9, w10, w11, w12;
 
  protected:

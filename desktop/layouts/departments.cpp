@@ -52,9 +52,6 @@ void addCurrent(FormWindow& window, QGridLayout& grid, int row, int index) {
   makeBold(label);
   alignRight(label);
   label.setMinimumWidth(34);
-  QPalette palette = label.palette();
-  palette.setColor(QPalette::WindowText, theme::kCurrent);
-  label.setPalette(palette);
   grid.addWidget(&label, row, kCurrentColumn);
 }
 
@@ -78,7 +75,6 @@ void layOutDesk(FormWindow& window, QGridLayout& grid, int column, const char* k
     }
     QWidget& value = window.at(prefix + details[static_cast<std::size_t>(i)]);
     if (heading != nullptr) {
-      theme::makeSmall(*heading);
       static_cast<QLabel*>(heading)->setAlignment(Qt::AlignLeft | Qt::AlignTop);
       grid.addWidget(heading, 3 + i, column);
     }

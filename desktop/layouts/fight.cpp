@@ -73,20 +73,26 @@ QVBoxLayout* reports(FormWindow& window) {
 QHBoxLayout* distance(FormWindow& window) {
   auto* row = bare<QHBoxLayout>(8);
   theme::makeHeading(window.at("Odl"));
-  theme::makeBigFigure(window.at("LIle"));
-  alignRight(window.at("LIle"));
   row->addWidget(&window.at("Label1"));
   row->addWidget(&window.at("Odl"));
   row->addStretch();
-  row->addWidget(&window.at("LIle"));
   return row;
 }
 
 QVBoxLayout* monster(FormWindow& window) {
   auto* column = bare<QVBoxLayout>(6);
   column->addLayout(distance(window));
-  window.at("Potwór").setFixedSize(416, 416);
-  column->addWidget(&window.at("Potwór"), 0, Qt::AlignCenter);
+  window.at("Potwór").setFixedSize(432, 432);
+  // How many are left stands on the picture, in its corner.
+  QWidget& left = window.at("LIle");
+  left.setProperty("badge", true);
+  theme::makeBigFigure(left);
+  alignCentre(left);
+  auto* scene = bare<QGridLayout>(0);
+  scene->addWidget(&window.at("Potwór"), 0, 0);
+  scene->addWidget(&left, 0, 0, Qt::AlignRight | Qt::AlignBottom);
+  left.raise();
+  column->addLayout(scene);
   column->addStretch();
   return column;
 }

@@ -18,7 +18,7 @@ QVBoxLayout* monster(FormWindow& window) {
   auto* column = bare<QVBoxLayout>(8);
   theme::makeTitle(window.at("Moname"));
   alignCentre(window.at("Moname"));
-  window.at("Potwór").setFixedSize(416, 416);
+  window.at("Potwór").setFixedSize(400, 400);
   auto* grid = bare<QGridLayout>(4);
   for (int i = 0; i < 4; ++i) addFigure(window, *grid, i, member("Label2", i), member("Monstat", i));
   grid->setColumnStretch(0, 1);
@@ -68,7 +68,7 @@ void layOutSpells(FormWindow& window) {
 void layOutNotes(FormWindow& window) {
   auto* column = new QVBoxLayout(&window.at("Frame3"));
   column->setContentsMargins(12, 14, 12, 12);
-  window.at("historia").setMinimumHeight(120);
+  window.at("historia").setMinimumHeight(100);
   column->addWidget(&window.at("historia"));
 }
 
@@ -92,17 +92,17 @@ void layOutPreparation(FormWindow& window) {
   auto* right = bare<QVBoxLayout>(12);
   for (const char* frame : {"Statystyki", "Frame2", "Frame1"}) right->addWidget(&window.at(frame));
   right->addWidget(&window.at("Frame3"), 1);
-  window.at("Zakoncz").setMinimumSize(200, 48);
+  window.at("Zakoncz").setMinimumSize(200, 44);
   theme::makeHeading(window.at("Zakoncz"));
   right->addWidget(&window.at("Zakoncz"), 0, Qt::AlignRight);
   auto* columns = bare<QHBoxLayout>(24);
   columns->addLayout(monster(window));
   columns->addLayout(right, 1);
   auto* all = new QVBoxLayout(&window);
-  all->setContentsMargins(20, 12, 20, 16);
+  all->setContentsMargins(20, 8, 20, 12);
   all->addLayout(head(window));
   all->addLayout(columns, 1);
-  window.resize(1000, 704);
+  window.resize(1000, 700);
 }
 
 }  // namespace brolgan::desktop

@@ -26,7 +26,8 @@ bool isReachable(const ControlEntry& entry) {
     if constexpr (requires { control->Enabled; }) reachable = reachable && control->Enabled;
     return reachable;
   };
-  return (entry.frame == nullptr || entry.frame->Visible) && std::visit(usable, entry.control);
+  const bool shown = (entry.form == nullptr || entry.form->Visible) && (entry.frame == nullptr || entry.frame->Visible);
+  return shown && std::visit(usable, entry.control);
 }
 
 }  // namespace brolgan

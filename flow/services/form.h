@@ -16,6 +16,8 @@ namespace brolgan {
 using ControlPointer = std::variant<Label*, TextBox*, CommandButton*, OptionButton*, Frame*, PictureBox*, ComboBox*,
                                     ListBox*, MediaPlayer*>;
 
+class Form;
+
 // One control of a form: "Imie", or "PLUS(7)" for a member of an array.
 struct ControlEntry {
   std::string name;
@@ -23,15 +25,19 @@ struct ControlEntry {
   ControlPointer control;
   // The frame that holds the control; null when it lies on the form itself.
   const Frame* frame = nullptr;
+  // The form that owns it; null in a table that stands by itself.
+  const Form* form = nullptr;
 
   [[nodiscard]] std::string fullName() const;
 };
 
 class ControlTable {
  public:
+  explicit ControlTable(const Form* owner = nullptr) : owner_(owner) {}
+
   template <class Control>
   void add(const char* name, Control& control, const Frame* frame = nullptr) {
-    entries_.push_back({name, -1, &control, frame});
+    addMember(name, -1, control, frame);
   }
   template <class Control, std::size_t Size>
   void add(const char* name, std::array<Control, Size>& controls, const Frame* frame = nullptr) {
@@ -39,7 +45,7 @@ class ControlTable {
   }
   template <class Control>
   void addMember(const char* name, int index, Control& control, const Frame* frame = nullptr) {
-    entries_.push_back({name, index, &control, frame});
+    entries_.push_back({name, index, &control, frame, owner_});
   }
 
   [[nodiscard]] const std::vector<ControlEntry>& entries() const { return entries_; }
@@ -47,6 +53,7 @@ class ControlTable {
   [[nodiscard]] const ControlEntry& find(std::string_view fullName) const;
 
  private:
+  const Form* owner_;
   std::vector<ControlEntry> entries_;
 };
 
@@ -71,10 +78,11 @@ class Form {
   virtual void listControls(ControlTable& table) = 0;
 
  private:
-  ControlTable table_;
+  ControlTable table_{this};
 };
 
-// Whether a person can reach the control now: it is visible, enabled and in no hidden frame.
+// Whether a person can reach the control now: it is visible, enabled, in no hidden frame and on no
+// hidden form.
 bool isReachable(const ControlEntry& entry);
 
 }  // namespace brolgan

@@ -14,7 +14,7 @@ void selectOption(Form& form, const ControlEntry& chosen) {
 }  // namespace
 
 bool click(Runtime& runtime, Form& form, const ControlEntry& entry) {
-  if (!form.Visible || !isReachable(entry)) return false;
+  if (!isReachable(entry)) return false;
   if (std::holds_alternative<OptionButton*>(entry.control)) selectOption(form, entry);
   const auto raise = [&runtime](auto* control) {
     if constexpr (requires { control->Click; }) {

@@ -5,6 +5,7 @@
 
 #include "flow/services/code_page.h"
 #include "flow/services/number_text.h"
+#include "flow/services/runtime_error.h"
 
 namespace brolgan {
 
@@ -28,12 +29,25 @@ void ItemWriter::flag(bool set) { string(set ? "True" : "False"); }
 
 void ItemWriter::integer(Integer number) { integers({number}); }
 
+void ItemWriter::rounded(double number, const Field& field) {
+  const double whole = round(number);
+  if (!(whole >= INT16_MIN && whole <= INT16_MAX)) {
+    throw RuntimeError(ErrorCode::overflow, {name_, written_ + 1, field.text()});
+  }
+  integer(toInteger(whole));
+}
+
 void ItemWriter::integers(std::initializer_list<Integer> numbers) {
   for (const Integer number : numbers) {
     lines_ += str(number);
     lines_ += ' ';
   }
   endLine();
+}
+
+void ItemWriter::endLine() {
+  lines_ += "\r\n";
+  ++written_;
 }
 
 void ItemWriter::close() {

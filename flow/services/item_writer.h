@@ -9,6 +9,7 @@
 
 #include "flow/services/files.h"
 #include "flow/services/integer.h"
+#include "flow/services/item_reader.h"
 
 namespace brolgan {
 
@@ -23,17 +24,21 @@ class ItemWriter {
   void string(std::string_view text);
   void flag(bool set);
   void integer(Integer number);
+  // A number of a caption or a sum as an Integer, rounded with ties to even. Raises 6, with the
+  // file, the line and the field, when it is beyond the range of one.
+  void rounded(double number, const Field& field);
   // Several numbers side by side on one line.
   void integers(std::initializer_list<Integer> numbers);
   // Stores all lines; raises 57 when they cannot be stored. Nothing may be written after it.
   void close();
 
  private:
-  void endLine() { lines_ += "\r\n"; }
+  void endLine();
 
   Files& files_;
   std::string name_;
   std::string lines_;
+  int written_ = 0;
 };
 
 }  // namespace brolgan

@@ -1,0 +1,40 @@
+// Items of every kind, each kind by itself and all in turn. Every read takes at least one byte, so
+// a file of n bytes is at its end after n items.
+#include <array>
+
+#include "flow/services/item_reader.h"
+#include "fuzz/target.h"
+
+namespace brolgan::fuzz {
+namespace {
+
+using Read = void (*)(ItemReader&);
+
+constexpr std::array<Read, 5> kReads = {[](ItemReader& in) { in.string("x"); }, [](ItemReader& in) { in.integer("x"); },
+                                        [](ItemReader& in) { in.flag("x"); }, [](ItemReader& in) { in.boolean("x"); },
+                                        [](ItemReader& in) { in.variant("x"); }};
+
+// Reads on after every error but that of the file's end, as only a test would.
+void readToTheEnd(const std::string& bytes, std::size_t first, std::size_t step) {
+  ItemReader in("plik.txt", bytes);
+  std::size_t next = first;
+  for (std::size_t items = 0; items <= bytes.size(); ++items) {
+    const Read read = kReads[next % kReads.size()];
+    if (codeOf([&] { read(in); }) == static_cast<int>(ErrorCode::pastEnd)) return;
+    next += step;
+  }
+  require(false);
+}
+
+}  // namespace
+}  // namespace brolgan::fuzz
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace brolgan::fuzz;
+  const std::string bytes = bytesOf(data, size);
+  for (std::size_t kind = 0; kind < kReads.size(); ++kind) {
+    readToTheEnd(bytes, kind, 0);
+    readToTheEnd(bytes, kind, 1);
+  }
+  return 0;
+}

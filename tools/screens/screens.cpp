@@ -1,0 +1,138 @@
+// Plays a short game by clicking real widgets in real windows and takes a picture of the whole
+// display at every screen. Run by take.sh in a folder laid out for play.
+// Usage: brolgan_screens FOLDER-FOR-PICTURES HERO-FILE
+#include "desktop/screens.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QListWidget>
+#include <QScreen>
+#include <QTest>
+
+#include "desktop/face.h"
+#include "desktop/picture_store.h"
+#include "desktop/silence.h"
+#include "desktop/theme.h"
+#include "rules/dice.h"
+
+namespace {
+
+using namespace brolgan;
+
+class SetClock : public Clock {
+ public:
+  double timer() override { return now; }
+  double now = 0;
+};
+
+// A time of day at which a screen that seeds itself then rolls the face first.
+double timeOfRoll(int kmin, int kmax, int face) {
+  SeededRandom random;
+  for (double time = 1;; time += 1) {
+    random.seed(time);
+    if (Rzut(random, kmin, kmax) == face) return time;
+  }
+}
+
+class Session {
+ public:
+  Session(QString folder, QString grownHero) : folder_(std::move(folder)), grownHero_(std::move(grownHero)) {
+    desktop::offerScreens(runtime_);
+  }
+
+  void play(int shopMode) {
+    clock_.now = timeOfRoll(1, 4, shopMode);
+    face_.start();
+    take("setup");
+    click("Main", "GraczM(0)");
+    developHero();
+    take("creation");
+    click("CTmhero", "Save");
+    QFile::remove("hero1.boh");
+    QFile::copy(grownHero_, "hero1.boh");
+    click("Main", "Start");
+    take(shopMode == 1 ? "shop" : "shop-closed");
+    if (shopMode != 1) return;
+    choose("CTsklep", "LBronww", 7);
+    click("CTsklep", "Heroshow");
+    take("sheet");
+    click("FHero", "HeroClose");
+    clock_.now = timeOfRoll(32, 37, 34);
+    click("CTsklep", "w9");
+    take("preparation");
+    click("Prefight", "Zakoncz");
+    fight();
+    take("fight");
+  }
+
+ private:
+  void developHero() {
+    for (const char* button : {"PLUS(0)", "PLUS(0)", "PLUS(1)", "PLUS(3)"}) click("CTmhero", button);
+    click("CTmhero", "Klasa(3)");
+    click("CTmhero", "Czarn(1)");
+    click("CTmhero", "Spec(0)");
+    choose("CTmhero", "LBronww", 3);
+    choose("CTmhero", "Lbronss", 7);
+    click("CTmhero", "Kupww");
+  }
+
+  void fight() {
+    pick("Bron", "Oczożłop");
+    click("Fight", "Atak");
+    click("Fight", "NastTura");
+    click("Fight", "Atak");
+  }
+
+  QWidget& widget(const char* form, const QString& name) {
+    return *face_.window(form)->findChild<QWidget*>(QString(name));
+  }
+
+  void settle() { QTest::qWait(400); }
+
+  void click(const char* form, const QString& name) {
+    QTest::mouseClick(&widget(form, name), Qt::LeftButton);
+    settle();
+  }
+
+  void choose(const char* form, const QString& name, int row) {
+    static_cast<QListWidget&>(widget(form, name)).setCurrentRow(row);
+    settle();
+  }
+
+  void pick(const QString& list, const QString& text) {
+    auto& box = static_cast<QComboBox&>(widget("Fight", list));
+    box.setCurrentText(text);
+    emit box.activated(box.currentIndex());
+    settle();
+  }
+
+  void take(const QString& name) {
+    settle();
+    QGuiApplication::primaryScreen()->grabWindow(0).save(folder_ + "/" + name + ".png");
+  }
+
+  QString folder_;
+  QString grownHero_;
+  DiskFiles files_;
+  SeededRandom random_;
+  SetClock clock_;
+  desktop::PictureStore pictures_;
+  desktop::Silence sounds_;
+  Runtime runtime_{{files_, random_, clock_, pictures_, sounds_}};
+  desktop::Face face_{runtime_, pictures_};
+};
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  brolgan::desktop::theme::apply(application);
+  QApplication::setWindowIcon(QIcon("ikona.png"));
+  const QString folder = application.arguments().at(1);
+  const QString hero = application.arguments().at(2);
+  Session(folder, hero).play(2);
+  Session(folder, hero).play(1);
+  return 0;
+}
