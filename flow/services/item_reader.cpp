@@ -108,7 +108,7 @@ std::string_view ItemReader::quoted() {
 Integer ItemReader::toIntegerOrFail(double number, const Field& field) const {
   const double whole = round(number);
   if (!(whole >= INT16_MIN && whole <= INT16_MAX)) fail(ErrorCode::overflow, field);
-  return toInteger(whole);
+  return static_cast<int>(whole);
 }
 
 }  // namespace brolgan

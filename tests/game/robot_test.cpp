@@ -128,7 +128,7 @@ void expectAllEndings(const Tally& tally) {
   EXPECT_GT(count(Ending::lastLife), kGames / 3);
   EXPECT_GT(count(Ending::lastMonster), kGames / 100);
   EXPECT_GT(count(Ending::titleClosed), 0);
-  EXPECT_LT(count(Ending::error), kGames / 5);
+  EXPECT_LT(count(Ending::error), kGames / 3);
 }
 
 void expectAllCauses(const Tally& tally) {

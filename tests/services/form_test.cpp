@@ -13,6 +13,8 @@ namespace {
 
 class FormTest : public testing::Test {
  protected:
+  void SetUp() override { form.Visible = true; }
+
   [[nodiscard]] bool reachable(const std::string& name) { return isReachable(form.controls().find(name)); }
 
   World world;
@@ -71,6 +73,11 @@ TEST_F(FormTest, ADisabledControlIsNotReachable) {
   form.box.Enabled = false;
   form.label.Enabled = false;
   for (const char* const name : {"button", "box", "label"}) EXPECT_FALSE(reachable(name)) << name;
+}
+
+TEST_F(FormTest, NothingOnAHiddenFormIsReachable) {
+  form.Visible = false;
+  for (const char* const name : {"label", "button", "box", "combo", "framed"}) EXPECT_FALSE(reachable(name)) << name;
 }
 
 TEST_F(FormTest, NothingInAHiddenFrameIsReachableAndAllOutsideIs) {

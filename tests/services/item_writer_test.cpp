@@ -81,6 +81,23 @@ TEST_F(ItemWriting, EveryIntegerReadsBack) {
   for (int number = -32768; number <= 32767; ++number) ASSERT_EQ(in.integer("x"), number);
 }
 
+TEST_F(ItemWriting, ASumIsRoundedWithTiesToEven) {
+  EXPECT_EQ(written([](ItemWriter& out) { out.rounded(2.5, "x"); }), " 2 \r\n");
+  EXPECT_EQ(written([](ItemWriter& out) { out.rounded(-3.5, "x"); }), "-4 \r\n");
+  EXPECT_EQ(written([](ItemWriter& out) { out.rounded(32767.4, "x"); }), " 32767 \r\n");
+}
+
+TEST_F(ItemWriting, ASumBeyondAnIntegerOverflowsAndNamesTheLineThatItWasFor) {
+  const auto write = [](ItemWriter& out) {
+    out.string("Kosiarz");
+    out.integers({1, 2});
+    out.rounded(32767.5, {"Wyp", 1});
+  };
+  EXPECT_EQ(errorTextOf([&] { written(write); }),
+            "Błąd wykonania 6: Przepełnienie\nPlik: plik.txt\nWiersz: 3\nPole: Wyp(1)");
+  EXPECT_EQ(files.contents.at("plik.txt"), "Kosiarz\r\n 1  2 \r\n");
+}
+
 TEST_F(ItemWriting, LinesFollowEachOtherInOrder) {
   const auto write = [](ItemWriter& out) {
     out.string("Kosiarz");
