@@ -139,7 +139,7 @@ void mirrorRows(const Rows& rows, QListWidget& widget) {
   }
   if (rows.ListIndex() < 0) {
     widget.clearSelection();
-  } else if (!same || widget.currentRow() != rows.ListIndex()) {
+  } else if (!same || widget.currentRow() != rows.ListIndex() || widget.selectedItems().isEmpty()) {
     widget.setCurrentRow(rows.ListIndex());
   }
 }

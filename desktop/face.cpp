@@ -66,7 +66,7 @@ void Face::fail(const char* text) {
 void Face::synchronize() {
   if (runtime_.ended()) {
     over_ = true;
-    QCoreApplication::quit();
+    QCoreApplication::exit(0);  // Not quit(), which asks the windows to close first; they decline.
     return;
   }
   showOpened();
@@ -80,6 +80,7 @@ void Face::hideClosed() {
       if (takesTurns(name)) rememberPlace(*window);
       window->hide();
     }
+    if (shown == nullptr) window->release();
   }
 }
 
@@ -88,15 +89,16 @@ void Face::showOpened() {
     Form& shown = *form(name);
     if (!shown.Visible) continue;
     auto& window = windows_[name];
+    const bool fresh = !window || window->form() != &shown;
     if (!window) {
       window = std::make_unique<FormWindow>(name, shown, pictures_, events());
-    } else if (window->form() != &shown) {
+    } else if (fresh) {
       window->bind(shown);
     } else {
       window->mirrorAll();
     }
-    if (window->isVisible()) continue;
-    place(name, *window);
+    if (window->isVisible() && !fresh) continue;
+    if (!window->isVisible()) place(name, *window);
     window->show();
     window->raise();
     window->activateWindow();

@@ -6,6 +6,7 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QPlainTextEdit>
+#include <QSignalBlocker>
 #include <utility>
 
 #include "desktop/control_widget.h"
@@ -62,7 +63,11 @@ void FormWindow::orderTabs() {
 void FormWindow::bind(Form& form) {
   form_ = &form;
   for (QWidget* const widget : inOrder_) {
-    if (auto* list = qobject_cast<QListWidget*>(widget)) list->scrollToTop();
+    if (auto* list = qobject_cast<QListWidget*>(widget)) {
+      const QSignalBlocker quiet(list);
+      list->setCurrentRow(-1);
+      list->scrollToTop();
+    }
     if (auto* notes = qobject_cast<QPlainTextEdit*>(widget)) notes->clear();
   }
   mirrorAll();

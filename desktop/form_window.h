@@ -31,6 +31,8 @@ class FormWindow : public QWidget {
 
   // Shows another form of the same kind from now on, as fresh as it was loaded.
   void bind(Form& form);
+  // Forgets a form that is gone; another may come to lie at its address.
+  void release() { form_ = nullptr; }
   [[nodiscard]] const Form* form() const { return form_; }
 
   // Makes every widget like its control.

@@ -78,6 +78,14 @@ PictureButton::PictureButton(PictureStore& pictures, const QString& name, QWidge
   setAttribute(Qt::WA_Hover);
 }
 
+void PictureButton::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    click();
+  } else {
+    QAbstractButton::keyPressEvent(event);
+  }
+}
+
 void PictureButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);

@@ -60,6 +60,7 @@ class PictureButton : public QAbstractButton {
   [[nodiscard]] QSize sizeHint() const override { return {48, 48}; }
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

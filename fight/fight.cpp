@@ -48,6 +48,7 @@ void Fight::Fight_Load() {
   PotworSzybkosc = setup.potwor.Szybkosc;
   PotworAtak = setup.potwor.Atak;
   NrPotwora = setup.NrPotwora;
+  if (IlePotworow > PotworZycie.size) throw RuntimeError(ErrorCode::subscript, {kFightFile, 5, "Ilosc"});
   Ostatni = IlePotworow - 1;
   PotworZycie(0) = setup.potwor.Wytrzymalosc;
   PotworPancerz(0) = setup.potwor.Pancerz;

@@ -82,7 +82,7 @@ void layOutCreation(FormWindow& window) {
   right->addLayout(decoration(window), 1);
   auto* left = new QWidget(&window);
   left->setLayout(person(window));
-  left->setFixedWidth(272);
+  left->setFixedWidth(276);
   columns->addWidget(left);
   columns->addLayout(middle, 5);
   columns->addLayout(right, 4);

@@ -94,16 +94,22 @@ class MediaPlayer {
   MediaPlayer(Sounds& sounds, std::string name) : sounds_(sounds), name_(std::move(name)) {}
   MediaPlayer(const MediaPlayer&) = delete;
   MediaPlayer& operator=(const MediaPlayer&) = delete;
-  ~MediaPlayer() { sounds_.stop(name_); }
+  ~MediaPlayer() { Stop(); }
 
   // Starts the file set and returns at once.
   void Play() { sounds_.play(name_, FileName); }
+  // Ends what plays, for good: the form of the player is going.
+  void Stop() {
+    if (!stopped_) sounds_.stop(name_);
+    stopped_ = true;
+  }
 
   std::string FileName;
 
  private:
   Sounds& sounds_;
   std::string name_;
+  bool stopped_ = false;
 };
 
 }  // namespace brolgan

@@ -19,6 +19,12 @@ const ControlTable& Form::controls() {
   return table_;
 }
 
+void Form::stopPlayers() {
+  for (const ControlEntry& entry : controls().entries()) {
+    if (auto* const* const player = std::get_if<MediaPlayer*>(&entry.control)) (*player)->Stop();
+  }
+}
+
 bool isReachable(const ControlEntry& entry) {
   const auto usable = [](const auto* control) {
     bool reachable = true;

@@ -69,6 +69,9 @@ class Form {
   virtual void Form_Unload() {}
 
   [[nodiscard]] const ControlTable& controls();
+  // Stops all media players of the form. A form that is loaded again at once has players of the
+  // same names, which the old ones must not silence later.
+  void stopPlayers();
 
   std::string Caption;
   bool Visible = false;

@@ -17,7 +17,8 @@ bool click(Runtime& runtime, Form& form, const ControlEntry& entry) {
   if (!isReachable(entry)) return false;
   if (std::holds_alternative<OptionButton*>(entry.control)) selectOption(form, entry);
   const auto raise = [&runtime](auto* control) {
-    if constexpr (requires { control->Click; }) {
+    constexpr bool isList = requires { control->ListCount(); };
+    if constexpr (!isList && requires { control->Click; }) {
       if (control->Click) runtime.raise(control->Click);
     }
   };
@@ -28,10 +29,14 @@ bool click(Runtime& runtime, Form& form, const ControlEntry& entry) {
 bool select(Runtime& runtime, const ControlEntry& entry, int row) {
   if (!isReachable(entry)) return false;
   const auto choose = [&](auto* control) {
-    if constexpr (requires { control->ListIndex(row); }) runtime.raise([&] { control->ListIndex(row); });
+    if constexpr (requires { control->ListIndex(row); }) {
+      if (row >= control->ListCount()) return false;
+      runtime.raise([&] { control->ListIndex(row); });
+      return true;
+    }
+    return false;
   };
-  std::visit(choose, entry.control);
-  return true;
+  return std::visit(choose, entry.control);
 }
 
 bool type(const ControlEntry& entry, const std::string& text) {

@@ -18,7 +18,7 @@ class Integer {
   // Implicit for whole numbers and named places; a floating value must go through toInteger.
   // Raises overflow outside -32768 to 32767.
   template <class Number>
-    requires std::same_as<Number, int> || std::is_enum_v<Number>
+  requires std::same_as<Number, int> || std::is_enum_v<Number>
   constexpr Integer(Number number) : value_(narrow(number)) {}  // NOLINT(google-explicit-constructor)
 
   [[nodiscard]] constexpr int value() const { return value_; }

@@ -79,12 +79,27 @@ bool hasNumberForm(std::string_view text) {
   return skipMantissa(text, at) && skipExponent(text, at);
 }
 
+// A whole number with an optional sign, as a double of any size.
+double exponentOf(std::string_view text) {
+  const bool negative = text.front() == '-';
+  if (text.front() == '-' || text.front() == '+') text.remove_prefix(1);
+  double value = 0;
+  for (const char digit : text) value = value * 10 + (digit - '0');
+  return negative ? -value : value;
+}
+
+// How many places the first digit that counts stands before the point, or behind it as a negative.
+long leadingPlaces(std::string_view mantissa) {
+  const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
+  const auto first = static_cast<long>(mantissa.find_first_of("123456789"));
+  return first < point ? point - first : point + 1 - first;
+}
+
 // What a number of this form comes to when no double can hold it: too large or too small.
 double beyondDoubles(std::string_view text) {
-  const auto exponent = text.find('e');
-  const bool small = exponent != std::string_view::npos
-                         ? text[exponent + 1] == '-'
-                         : text.substr(0, text.find('.')).find_first_of("123456789") == std::string_view::npos;
+  const auto mark = std::min(text.find('e'), text.size());
+  const double exponent = mark == text.size() ? 0 : exponentOf(text.substr(mark + 1));
+  const bool small = static_cast<double>(leadingPlaces(text.substr(0, mark))) + exponent < 0;
   const double size = small ? 0 : std::numeric_limits<double>::infinity();
   return text.front() == '-' ? -size : size;
 }

@@ -19,6 +19,7 @@ void Runtime::Unload(std::string_view name) {
   if (ended_ || form == nullptr) return;
   raise([this, form, name] {
     form->Form_Unload();
+    form->stopPlayers();
     const auto found = position(name);
     auto* const place = &loaded_[static_cast<std::size_t>(found - loaded_.begin())];
     leaving_.push_back(std::move(place->second));

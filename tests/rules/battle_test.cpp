@@ -60,8 +60,6 @@ TEST(WitcherBonus, OnTheEightStepsOfSpeed) {
   for (int step = 1; step <= 8; ++step) EXPECT_EQ(witcherBonus(ladderValue(kSpeed, step)), bonuses[step - 1]) << step;
 }
 
-TEST(WitcherBonus, TiesGoToTheEvenNumber) { EXPECT_EQ(witcherBonus(17), 5); }
-
 TEST(WizardRegain, OnTheFiveStepsOfRegeneration) {
   const std::vector<int> gains = {0, 1, 1, 2, 3};
   for (int step = 1; step <= 5; ++step)

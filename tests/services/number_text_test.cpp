@@ -94,7 +94,9 @@ INSTANTIATE_TEST_SUITE_P(Exponents, ParseNumber,
                                          Parsing{"+2E2", 200}));
 INSTANTIATE_TEST_SUITE_P(Extremes, ParseNumber,
                          testing::Values(Parsing{"1E400", HUGE_VAL}, Parsing{"-1E400", -HUGE_VAL}, Parsing{"1E-400", 0},
-                                         Parsing{"0E400", 0}, Parsing{"1D999999999999999999999", HUGE_VAL},
+                                         Parsing{"0E400", 0}, Parsing{"0.0E99999999999999999999", 0},
+                                         Parsing{"-0E-99999999999999999999", 0},
+                                         Parsing{"1D999999999999999999999", HUGE_VAL},
                                          Parsing{"1E-999999999999999999999", 0}));
 
 TEST(ParseNumber, AVeryLongRowOfDigitsIsInfiniteAndAVeryLongFractionIsNothing) {

@@ -1,0 +1,85 @@
+#include "desktop/sound/worker.h"
+
+#include <algorithm>
+#include <exception>
+
+namespace brolgan::desktop {
+
+namespace {
+
+class Worker {
+ public:
+  Worker(Mailbox& mailbox, const BackendMaker& make, std::chrono::milliseconds restAfter)
+      : mailbox_(mailbox), make_(make), restAfter_(restAfter) {}
+
+  // Does the next thing to do; answers whether there may be more.
+  bool step() {
+    const Mailbox::Letter letter = mailbox_.take(awake_ ? std::optional(restAfter_) : std::nullopt);
+    if (std::holds_alternative<Closed>(letter)) return false;
+    if (const auto* const order = std::get_if<SoundOrder>(&letter)) {
+      obey(*order);
+    } else {
+      rest();
+    }
+    return true;
+  }
+
+ private:
+  void obey(const SoundOrder& order) {
+    if (!awake_) {
+      if (order.file) wakeFor(order);
+    } else if (order.file) {
+      backend_->play(order.player, pathOf(*order.file));
+    } else {
+      backend_->stop(order.player);
+    }
+  }
+
+  // Without a device each new sound asks for one again: somebody may have plugged it in. That may
+  // take long, and the sound may be out of date behind it.
+  void wakeFor(const SoundOrder& order) {
+    if (!backend_) backend_ = make_();
+    if (!backend_ || !backend_->open()) return;
+    awake_ = true;
+    mailbox_.giveBack(order);
+  }
+
+  void rest() {
+    if (backend_->busy()) return;
+    backend_->close();
+    awake_ = false;
+  }
+
+  static std::string pathOf(std::string name) {
+    std::ranges::replace(name, '\\', '/');
+    return name;
+  }
+
+  Mailbox& mailbox_;
+  const BackendMaker& make_;
+  std::unique_ptr<SoundBackend> backend_;
+  std::chrono::milliseconds restAfter_;
+  bool awake_ = false;
+};
+
+// A sound too large for the memory is no reason to end: it is not heard, and the next one is.
+bool stepSafely(Worker& worker) {
+  try {
+    return worker.step();
+  } catch (const std::exception&) {
+    return true;
+  }
+}
+
+}  // namespace
+
+void work(const std::shared_ptr<Mailbox>& mailbox, const BackendMaker& make, std::chrono::milliseconds restAfter) {
+  {
+    Worker worker(*mailbox, make, restAfter);
+    while (stepSafely(worker)) {
+    }
+  }
+  mailbox->finish();
+}
+
+}  // namespace brolgan::desktop

@@ -1,0 +1,19 @@
+// The test program of the face: an application that looks as the game does, on a screen in memory,
+// beside the game's own pictures.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+
+#include "desktop/theme.h"
+
+int main(int argc, char* argv[]) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  ::testing::InitGoogleTest(&argc, argv);
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setDoubleClickInterval(0);
+  brolgan::desktop::theme::apply(application);
+  if (!QDir::setCurrent(BROLGAN_PICTURES)) return 1;
+  return RUN_ALL_TESTS();
+}
