@@ -78,7 +78,7 @@ void Face::hideClosed() {
     const Form* const shown = form(name);
     if (window->isVisible() && (shown == nullptr || !shown->Visible)) {
       if (takesTurns(name)) rememberPlace(*window);
-      window->hide();
+      window->leaveScreen();
     }
     if (shown == nullptr) window->release();
   }

@@ -82,6 +82,11 @@ void FormWindow::mirrorAll() {
   }
 }
 
+void FormWindow::leaveScreen() {
+  hide();
+  destroy();
+}
+
 void FormWindow::focusFirst() {
   for (QWidget* const widget : inOrder_) {
     if (widget == nullptr || (widget->focusPolicy() & Qt::TabFocus) == 0 || !widget->isEnabled()) continue;
@@ -102,11 +107,16 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   close_(name_);
 }
 
+QSize FormWindow::backgroundSize() const {
+  return PictureStore::coveringSize(background_, (QSizeF(size()) * devicePixelRatioF()).toSize());
+}
+
 void FormWindow::paintEvent(QPaintEvent*) {
   if (background_.isEmpty()) return;
-  const qreal ratio = devicePixelRatioF();
-  const QPixmap picture = pictures_.pixmap(background_, (QSizeF(size()) * ratio).toSize());
-  QPainter(this).drawPixmap(rect(), picture);
+  QPixmap picture = pictures_.pixmap(background_, backgroundSize());
+  picture.setDevicePixelRatio(devicePixelRatioF());
+  const QSizeF shown = picture.deviceIndependentSize();
+  QPainter(this).drawPixmap(QPointF((width() - shown.width()) / 2, (height() - shown.height()) / 2), picture);
 }
 
 }  // namespace brolgan::desktop

@@ -37,6 +37,8 @@ class FormWindow : public QWidget {
 
   // Makes every widget like its control.
   void mirrorAll();
+  // Hides the window and gives back the memory of its picture on the screen.
+  void leaveScreen();
   // Puts the keyboard where a person starts.
   void focusFirst();
 
@@ -53,6 +55,7 @@ class FormWindow : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  [[nodiscard]] QSize backgroundSize() const;
   void makeWidgets(const Events& events);
   void orderTabs();
   [[nodiscard]] QWidget* parentOf(const ControlEntry& entry);

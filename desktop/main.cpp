@@ -1,9 +1,12 @@
 // The program: the services of this machine, the runtime with all screens, and the face.
 #include <QApplication>
 #include <QIcon>
+#include <QImageReader>
+#include <QTimer>
 #include <cstdlib>
 
 #include "desktop/face.h"
+#include "desktop/layouts/layouts.h"
 #include "desktop/picture_store.h"
 #include "desktop/screens.h"
 #include "desktop/sound/machine_sounds.h"
@@ -12,17 +15,31 @@
 #include "flow/services/files.h"
 #include "flow/services/random.h"
 
+namespace {
+
+// The icon can wait until the first window stands; decoding it would hold that up.
+void setIconSoon(QApplication& application) {
+  QTimer::singleShot(250, &application, [] {
+    QImageReader reader("ikona.png");
+    reader.setScaledSize({64, 64});
+    QApplication::setWindowIcon(QIcon(QPixmap::fromImage(reader.read())));
+  });
+}
+
+}  // namespace
+
 int main(int argc, char* argv[]) {
   using namespace brolgan;
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setCursorFlashTime(0);  // A blinking cursor would wake an idle program twice a second.
+  desktop::PictureStore pictures;
+  desktop::prepareTitle(pictures, application.devicePixelRatio());
   desktop::theme::apply(application);
-  QApplication::setWindowIcon(QIcon("ikona.png"));
 
   DiskFiles files;
   SeededRandom random;
   desktop::SystemClock clock;
-  desktop::PictureStore pictures;
   desktop::MachineSounds sounds;
   Runtime runtime({files, random, clock, pictures, sounds});
   desktop::offerScreens(runtime);
@@ -30,6 +47,7 @@ int main(int argc, char* argv[]) {
   desktop::Face face(runtime, pictures);
   QMetaObject::invokeMethod(
       &application, [&face] { face.start(); }, Qt::QueuedConnection);
+  setIconSoon(application);
   const int result = QApplication::exec();
   // A sound server that hangs must not keep the program from ending.
   if (!sounds.close()) std::_Exit(result);

@@ -1,5 +1,7 @@
 #include "desktop/picture_store.h"
 
+#include <malloc.h>
+
 #include <QFileInfo>
 #include <QImageReader>
 
@@ -10,13 +12,30 @@ namespace brolgan::desktop {
 
 namespace {
 
-constexpr int kCacheKilobytes = 32 * 1024;
+constexpr int kLargeBlock = 128 * 1024;
+constexpr int kCacheKilobytes = 8 * 1024;
 
 QString pathOf(QString name) { return name.replace('\\', '/'); }
 
+QString keyOf(const QString& name, QSize box) {
+  return QString("%1 %2x%3").arg(name).arg(box.width()).arg(box.height());
+}
+
+QImage decode(const QString& path, QSize box) {
+  QImageReader reader(path);
+  reader.setScaledSize(reader.size().scaled(box, Qt::KeepAspectRatio));
+  return reader.read();
+}
+
 }  // namespace
 
-PictureStore::PictureStore() : cache_(kCacheKilobytes) {}
+// Pictures are large blocks: each gets memory of its own, which goes back as soon as it is free, and
+// the threads that decode share one heap.
+PictureStore::PictureStore() : cache_(kCacheKilobytes) {
+  mallopt(M_MMAP_THRESHOLD, kLargeBlock);
+  mallopt(M_TRIM_THRESHOLD, kLargeBlock);
+  mallopt(M_ARENA_MAX, 1);
+}
 
 void PictureStore::load(const std::string& name) {
   const QString path = pathOf(toQt(name));
@@ -24,15 +43,29 @@ void PictureStore::load(const std::string& name) {
   if (!QImageReader(path).canRead()) throw RuntimeError(ErrorCode::invalidPicture, {name, 0, {}});
 }
 
+void PictureStore::prepare(const QString& name, QSize box) {
+  const QString key = keyOf(name, box);
+  if (name.isEmpty() || box.isEmpty() || cache_.contains(key) || prepared_.contains(key)) return;
+  prepared_[key] = std::async(std::launch::async, decode, pathOf(name), box);
+}
+
 QPixmap PictureStore::pixmap(const QString& name, QSize box) {
-  const QString key = QString("%1 %2x%3").arg(name).arg(box.width()).arg(box.height());
+  const QString key = keyOf(name, box);
   if (const QPixmap* known = cache_.object(key)) return *known;
-  QImageReader reader(pathOf(name));
-  reader.setScaledSize(reader.size().scaled(box, Qt::KeepAspectRatio));
-  const QPixmap picture = QPixmap::fromImage(reader.read());
+  auto prepared = prepared_.extract(key);
+  const QPixmap picture = QPixmap::fromImage(prepared ? prepared.mapped().get() : decode(pathOf(name), box));
   const int kilobytes = static_cast<int>(qint64{4} * picture.width() * picture.height() / 1024);
   cache_.insert(key, new QPixmap(picture), kilobytes);
   return picture;
+}
+
+QSize PictureStore::coveringSize(const QString& name, QSize box) {
+  const QSize whole = originalSize(name);
+  for (int eighths = 1; eighths < 8; ++eighths) {
+    const QSize size((whole.width() * eighths + 7) / 8, (whole.height() * eighths + 7) / 8);
+    if (size.width() >= box.width() && size.height() >= box.height()) return size;
+  }
+  return whole.scaled(box, Qt::KeepAspectRatioByExpanding);
 }
 
 QSize PictureStore::originalSize(const QString& name) { return QImageReader(pathOf(name)).size(); }

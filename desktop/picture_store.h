@@ -3,8 +3,11 @@
 #pragma once
 
 #include <QCache>
+#include <QImage>
 #include <QPixmap>
 #include <QSize>
+#include <future>
+#include <map>
 
 #include "flow/services/outside.h"
 
@@ -17,12 +20,18 @@ class PictureStore : public Pictures {
   // Raises 53 when the file is missing and 481 when it is no picture; the decoding waits for pixmap.
   void load(const std::string& name) override;
 
+  // Begins to decode a picture beside the event thread, for the first pixmap() of that name and box.
+  void prepare(const QString& name, QSize box);
   // The picture scaled to fit into so many device pixels; null when it cannot be read.
   QPixmap pixmap(const QString& name, QSize box);
+  // The smallest size of the picture that covers so many device pixels and that a decoder gives
+  // without scaling again.
+  static QSize coveringSize(const QString& name, QSize box);
   // The size of the picture in its file; empty when it cannot be read.
   static QSize originalSize(const QString& name);
 
  private:
+  std::map<QString, std::future<QImage>> prepared_;
   QCache<QString, QPixmap> cache_;
 };
 

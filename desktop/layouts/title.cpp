@@ -3,10 +3,14 @@
 
 #include "desktop/layouts/grid.h"
 #include "desktop/layouts/layouts.h"
+#include "desktop/picture_store.h"
 
 namespace brolgan::desktop {
 
 namespace {
+
+constexpr int kGap = 8;
+constexpr QSize kPicture(640, 404);
 
 // Turns the row of pictures into a column when the window is taller than wide.
 class Turner : public QObject {
@@ -27,13 +31,17 @@ class Turner : public QObject {
 
 }  // namespace
 
+void prepareTitle(PictureStore& pictures, qreal ratio) {
+  for (const char* name : {"tytul.jpg", "tytul-noc.jpg"}) pictures.prepare(name, (QSizeF(kPicture) * ratio).toSize());
+}
+
 void layOutTitle(FormWindow& window) {
   QPalette palette = window.palette();
   palette.setColor(QPalette::Window, theme::kInk);
   window.setPalette(palette);
   auto* row = new QBoxLayout(QBoxLayout::LeftToRight, &window);
-  row->setContentsMargins(8, 8, 8, 8);
-  row->setSpacing(8);
+  row->setContentsMargins(kGap, kGap, kGap, kGap);
+  row->setSpacing(kGap);
   for (int i = 0; i < 2; ++i) {
     QWidget& picture = window.at("pics", i);
     picture.setMinimumSize(160, 100);
@@ -41,7 +49,7 @@ void layOutTitle(FormWindow& window) {
     row->addWidget(&picture, 1);
   }
   new Turner(*row, window);
-  window.resize(1304, 420);
+  window.resize(2 * kPicture.width() + 3 * kGap, kPicture.height() + 2 * kGap);
 }
 
 }  // namespace brolgan::desktop

@@ -1,0 +1,106 @@
+// The numbers of the data files keep first fights safe and games of a good length, on a small
+// sample with fixed seeds; the report holds the same aims against a large one.
+#include "tools/simulation/aims.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "tools/simulation/options.h"
+
+namespace brolgan::simulation {
+namespace {
+
+StudySetup sample() {
+  StudySetup setup;
+  setup.games = 48;
+  setup.rivalries = 0;
+  setup.trials = 40;
+  setup.threads = allCores();
+  return setup;
+}
+
+const Study& study() {
+  static const Study made = makeStudy(loadData(BROLGAN_ASSETS), sample());
+  return made;
+}
+
+bool anyMissed(const std::vector<Aim>& aims) {
+  return std::any_of(aims.begin(), aims.end(), [](const Aim& aim) { return !aim.reached; });
+}
+
+// Whether a share found in a few games is lower than chance alone would make it.
+bool tooLow(double found, double wanted, std::size_t games) {
+  return found < wanted - 2 * std::sqrt(wanted * (1 - wanted) / static_cast<double>(games));
+}
+
+// What is wrong with the length of these games, by more than a small sample excuses; empty when all
+// is well.
+std::string lengthFaults(const std::vector<GameRecord>& games) {
+  const auto turns = winningTurns(games);
+  if (turns.empty()) return "no game ends; ";
+  const auto inside = std::count_if(turns.begin(), turns.end(), [](int turn) { return turn >= 18 && turn <= 30; });
+  const double within = static_cast<double>(inside) / static_cast<double>(turns.size());
+  const double ended = static_cast<double>(turns.size()) / static_cast<double>(games.size());
+  const int middle = quantile(turns, 0.5);
+  std::string faults;
+  if (tooLow(ended, 0.95, games.size())) faults += "too few games end; ";
+  if (tooLow(within, 0.6, turns.size())) faults += "too few games end in turns 18 to 30; ";
+  if (middle < 21 || middle > 26) faults += "the median turn is " + std::to_string(middle) + "; ";
+  if (turns.front() <= 8) faults += "a game ends in turn " + std::to_string(turns.front()) + "; ";
+  return faults;
+}
+
+// Games that are all won in one turn.
+std::vector<GameRecord> wonIn(int turn) {
+  std::vector<GameRecord> games(48);
+  for (GameRecord& game : games) {
+    game.winner = 0;
+    game.winnerTurn = turn;
+  }
+  return games;
+}
+
+// The data files with every weapon's dice made as small as dice can be.
+DataFiles withFeebleWeapons() {
+  DataFiles data = loadData(BROLGAN_ASSETS);
+  std::string text = "10\r\n";
+  for (int i = 0; i < kWeapons; ++i) {
+    if (i == kMelees) text += "10\r\n";
+    text += "W" + std::to_string(i) + "\r\nw.wav\r\n1\r\n1\r\n1\r\n0\r\n";
+    text += i < kMelees ? "False\r\n0\r\n1\r\n" : "0\r\n0\r\n1\r\n";
+  }
+  data.weapons = text;
+  return data;
+}
+
+TEST(Aims, first_fights_are_as_safe_as_they_should_be) {
+  for (const Aim& aim : firstFightAims(study())) EXPECT_TRUE(aim.reached) << aim.text << ": " << aim.found;
+}
+
+TEST(Aims, games_last_as_long_as_they_should_and_end_with_a_winner) { EXPECT_EQ(lengthFaults(study().games), ""); }
+
+TEST(Aims, feeble_weapons_would_be_noticed_in_first_fights) {
+  StudySetup setup = sample();
+  setup.trials = 20;
+  const DataFiles data = withFeebleWeapons();
+  const Knowledge known(data);
+  Study feeble;
+  for (int i = 0; i < kClasses; ++i) feeble.firstFights[i] = tryFirstFights(data, known, i, setup);
+  EXPECT_TRUE(anyMissed(firstFightAims(feeble)));
+}
+
+TEST(Aims, games_of_a_wrong_length_would_be_noticed) {
+  EXPECT_EQ(lengthFaults(wonIn(24)), "");
+  EXPECT_NE(lengthFaults(wonIn(8)), "");
+  EXPECT_NE(lengthFaults(wonIn(35)), "");
+  EXPECT_NE(lengthFaults(std::vector<GameRecord>(48)), "");
+  Study hurried;
+  hurried.games = wonIn(8);
+  EXPECT_TRUE(anyMissed(lengthAims(hurried)));
+}
+
+}  // namespace
+}  // namespace brolgan::simulation

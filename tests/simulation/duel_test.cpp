@@ -1,0 +1,83 @@
+// One fight, fought often.
+#include "tools/simulation/duel.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "flow/services/item_writer.h"
+#include "rules/hero.h"
+
+namespace brolgan::simulation {
+namespace {
+
+// A hero with the first steps of all ladders and this much endurance.
+std::string heroWith(int endurance) {
+  Bohater hero;
+  hero.Imie = "Kosiarz";
+  hero.Klasa = "Strzelec";
+  for (Integer& step : hero.Poziomy) step = 1;
+  const std::array values = {endurance, 0, 2, 6, 1};
+  for (int i = 0; i < 5; ++i) hero.Wartosci(i) = values[static_cast<std::size_t>(i)];
+  hero.AktWytrzymalosc = endurance;
+  hero.AktMoc = 2;
+  hero.MO = {1, 4, 1, 0};
+  hero.Wcielenia = 1;
+  hero.MaBronww(0) = true;
+  hero.MaBronss(0) = true;
+  hero.Tura = 1;
+  MemoryFiles files;
+  ItemWriter out(files, "h");
+  Player_Save(out, hero);
+  out.close();
+  return files.contents["h"];
+}
+
+DuelResult duel(int endurance, int monster, int threads, std::uint64_t seed = 1) {
+  const DataFiles data = loadData(BROLGAN_ASSETS);
+  return fightDuel(data, {heroWith(endurance), monster, "Nóż", 1200, threads, seed});
+}
+
+TEST(Duel, gives_the_same_figures_on_any_number_of_cores) {
+  const DuelResult one = duel(12, 2, 1);
+  const DuelResult three = duel(12, 2, 3);
+  EXPECT_EQ(one.win.mean, three.win.mean);
+  EXPECT_EQ(one.rounds.mean, three.rounds.mean);
+  EXPECT_EQ(one.takenARound.error, three.takenARound.error);
+}
+
+TEST(Duel, of_a_giant_with_the_first_monster_is_always_won) {
+  const DuelResult result = duel(5000, 0, 1);
+  EXPECT_EQ(result.win.mean, 1);
+  EXPECT_EQ(result.win.error, 0);
+  EXPECT_GT(result.points.mean, 0);
+  EXPECT_GT(result.dealtARound.mean, 0);
+}
+
+TEST(Duel, of_a_weakling_with_the_last_monster_is_always_lost) {
+  const DuelResult result = duel(1, kMonsters - 1, 1);
+  EXPECT_EQ(result.win.mean, 0);
+  EXPECT_EQ(result.points.mean, 0);
+}
+
+TEST(Duel, takes_as_much_endurance_as_is_missing_after_a_win) {
+  const DuelResult result = duel(5000, 2, 1);
+  const double regained = 1;
+  const double lost = 5000 - result.enduranceAfterWin.mean;
+  EXPECT_NEAR(lost, result.takenARound.mean * result.rounds.mean, regained + 0.01);
+}
+
+TEST(Duel, finds_other_figures_within_its_own_errors_with_another_seed) {
+  const DuelResult one = duel(12, 4, 1, 1);
+  const DuelResult other = duel(12, 4, 1, 2);
+  EXPECT_NE(one.rounds.mean, other.rounds.mean);
+  EXPECT_NEAR(one.rounds.mean, other.rounds.mean, 6 * one.rounds.error);
+}
+
+TEST(Duel, refuses_a_weapon_that_the_hero_does_not_own) {
+  const DataFiles data = loadData(BROLGAN_ASSETS);
+  EXPECT_THROW(fightDuel(data, {heroWith(12), 0, "Miecz", 10, 1, 1}), std::invalid_argument);
+}
+
+}  // namespace
+}  // namespace brolgan::simulation

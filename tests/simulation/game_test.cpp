@@ -1,0 +1,62 @@
+// Whole games by the minds: equal seeds, equal games.
+#include "tools/simulation/game.h"
+
+#include <gtest/gtest.h>
+
+#include "tools/simulation/batch.h"
+
+namespace brolgan::simulation {
+namespace {
+
+bool same(const TurnRecord& a, const TurnRecord& b) {
+  return a.player == b.player && a.turn == b.turn && a.zone == b.zone && a.monster == b.monster &&
+         a.rounds == b.rounds && a.enduranceAfter == b.enduranceAfter && a.won == b.won;
+}
+
+void expectSame(const std::vector<GameRecord>& a, const std::vector<GameRecord>& b) {
+  ASSERT_EQ(a.size(), b.size());
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    EXPECT_EQ(a[i].winner, b[i].winner);
+    ASSERT_EQ(a[i].turns.size(), b[i].turns.size());
+    for (std::size_t t = 0; t < a[i].turns.size(); ++t) EXPECT_TRUE(same(a[i].turns[t], b[i].turns[t]));
+  }
+}
+
+std::vector<GameRecord> games(int threads, std::uint64_t run) {
+  const DataFiles data = loadData(BROLGAN_ASSETS);
+  const Knowledge known(data);
+  return playGames(data, known, 6, threads, [run](int i) {
+    return randomTable(seedOf(run, i), 3, {MindKind::sensible, MindKind::naive});
+  });
+}
+
+TEST(Game, is_the_same_on_any_number_of_cores) { expectSame(games(1, 7), games(3, 7)); }
+
+TEST(Game, differs_with_another_seed) {
+  const auto one = games(1, 7);
+  const auto other = games(1, 8);
+  EXPECT_NE(one[0].turns.size(), other[0].turns.size());
+}
+
+TEST(Game, takes_turns_in_order_and_counts_each_players_own) {
+  for (const GameRecord& game : games(1, 9)) {
+    std::array<int, 4> turns{};
+    for (const TurnRecord& turn : game.turns) {
+      EXPECT_EQ(turn.turn, ++turns[static_cast<std::size_t>(turn.player)]);
+    }
+  }
+}
+
+TEST(Game, of_a_single_player_ends_with_his_last_life_or_the_last_monster) {
+  const DataFiles data = loadData(BROLGAN_ASSETS);
+  const Knowledge known(data);
+  for (int i = 0; i < 5; ++i) {
+    GameSetup setup = randomTable(seedOf(11, i), 1, {MindKind::naive});
+    setup.mostTurns = 400;
+    const GameRecord game = playGame(data, known, setup);
+    EXPECT_TRUE(game.winner == 0 || game.seats[0].out);
+  }
+}
+
+}  // namespace
+}  // namespace brolgan::simulation
