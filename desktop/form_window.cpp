@@ -107,16 +107,12 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   close_(name_);
 }
 
-QSize FormWindow::backgroundSize() const {
-  return PictureStore::coveringSize(background_, (QSizeF(size()) * devicePixelRatioF()).toSize());
-}
-
 void FormWindow::paintEvent(QPaintEvent*) {
   if (background_.isEmpty()) return;
-  QPixmap picture = pictures_.pixmap(background_, backgroundSize());
+  const QSize box = (QSizeF(size()) * devicePixelRatioF()).toSize();
+  QPixmap picture = pictures_.pixmap(background_, box, Qt::IgnoreAspectRatio);
   picture.setDevicePixelRatio(devicePixelRatioF());
-  const QSizeF shown = picture.deviceIndependentSize();
-  QPainter(this).drawPixmap(QPointF((width() - shown.width()) / 2, (height() - shown.height()) / 2), picture);
+  QPainter(this).drawPixmap(0, 0, picture);
 }
 
 }  // namespace brolgan::desktop

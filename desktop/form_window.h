@@ -55,7 +55,6 @@ class FormWindow : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  [[nodiscard]] QSize backgroundSize() const;
   void makeWidgets(const Events& events);
   void orderTabs();
   [[nodiscard]] QWidget* parentOf(const ControlEntry& entry);

@@ -17,13 +17,13 @@ constexpr int kCacheKilobytes = 8 * 1024;
 
 QString pathOf(QString name) { return name.replace('\\', '/'); }
 
-QString keyOf(const QString& name, QSize box) {
-  return QString("%1 %2x%3").arg(name).arg(box.width()).arg(box.height());
+QString keyOf(const QString& name, QSize box, Qt::AspectRatioMode mode) {
+  return QString("%1 %2x%3 %4").arg(name).arg(box.width()).arg(box.height()).arg(mode);
 }
 
-QImage decode(const QString& path, QSize box) {
+QImage decode(const QString& path, QSize box, Qt::AspectRatioMode mode) {
   QImageReader reader(path);
-  reader.setScaledSize(reader.size().scaled(box, Qt::KeepAspectRatio));
+  reader.setScaledSize(reader.size().scaled(box, mode));
   return reader.read();
 }
 
@@ -44,30 +44,19 @@ void PictureStore::load(const std::string& name) {
 }
 
 void PictureStore::prepare(const QString& name, QSize box) {
-  const QString key = keyOf(name, box);
+  const QString key = keyOf(name, box, Qt::KeepAspectRatio);
   if (name.isEmpty() || box.isEmpty() || cache_.contains(key) || prepared_.contains(key)) return;
-  prepared_[key] = std::async(std::launch::async, decode, pathOf(name), box);
+  prepared_[key] = std::async(std::launch::async, decode, pathOf(name), box, Qt::KeepAspectRatio);
 }
 
-QPixmap PictureStore::pixmap(const QString& name, QSize box) {
-  const QString key = keyOf(name, box);
+QPixmap PictureStore::pixmap(const QString& name, QSize box, Qt::AspectRatioMode mode) {
+  const QString key = keyOf(name, box, mode);
   if (const QPixmap* known = cache_.object(key)) return *known;
   auto prepared = prepared_.extract(key);
-  const QPixmap picture = QPixmap::fromImage(prepared ? prepared.mapped().get() : decode(pathOf(name), box));
+  const QPixmap picture = QPixmap::fromImage(prepared ? prepared.mapped().get() : decode(pathOf(name), box, mode));
   const int kilobytes = static_cast<int>(qint64{4} * picture.width() * picture.height() / 1024);
   cache_.insert(key, new QPixmap(picture), kilobytes);
   return picture;
 }
-
-QSize PictureStore::coveringSize(const QString& name, QSize box) {
-  const QSize whole = originalSize(name);
-  for (int eighths = 1; eighths < 8; ++eighths) {
-    const QSize size((whole.width() * eighths + 7) / 8, (whole.height() * eighths + 7) / 8);
-    if (size.width() >= box.width() && size.height() >= box.height()) return size;
-  }
-  return whole.scaled(box, Qt::KeepAspectRatioByExpanding);
-}
-
-QSize PictureStore::originalSize(const QString& name) { return QImageReader(pathOf(name)).size(); }
 
 }  // namespace brolgan::desktop

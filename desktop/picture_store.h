@@ -22,13 +22,9 @@ class PictureStore : public Pictures {
 
   // Begins to decode a picture beside the event thread, for the first pixmap() of that name and box.
   void prepare(const QString& name, QSize box);
-  // The picture scaled to fit into so many device pixels; null when it cannot be read.
-  QPixmap pixmap(const QString& name, QSize box);
-  // The smallest size of the picture that covers so many device pixels and that a decoder gives
-  // without scaling again.
-  static QSize coveringSize(const QString& name, QSize box);
-  // The size of the picture in its file; empty when it cannot be read.
-  static QSize originalSize(const QString& name);
+  // The picture scaled to fit into so many device pixels, or to fill them when its own proportions
+  // do not matter; null when it cannot be read.
+  QPixmap pixmap(const QString& name, QSize box, Qt::AspectRatioMode mode = Qt::KeepAspectRatio);
 
  private:
   std::map<QString, std::future<QImage>> prepared_;

@@ -58,8 +58,8 @@ class Session {
     click("CTsklep", "Heroshow");
     take("sheet");
     click("FHero", "HeroClose");
-    clock_.now = timeOfRoll(32, 37, 34);
-    click("CTsklep", "w9");
+    clock_.now = timeOfRoll(24, 29, 28);
+    click("CTsklep", "w7");
     take("preparation");
     click("Prefight", "Zakoncz");
     fight();
