@@ -17,6 +17,8 @@ inline const QColor kPaper("#efe2c4");
 inline const QColor kPanel("#f8f1de");
 inline const QColor kButton("#f3e6c8");
 inline const QColor kButtonHover("#fff6dc");
+inline const QColor kPlate("#fffaf0");
+inline const QColor kEdge("#b5793a");
 inline const QColor kDisabledText("#7d7768");
 inline const QColor kFocus("#2f6f6b");
 

@@ -31,6 +31,7 @@ void drawPicture(QWidget& widget, PictureStore& pictures, const QString& name, Q
 ClickLabel::ClickLabel(std::function<void()> click, QWidget* parent) : QLabel(parent), click_(std::move(click)) {
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::PointingHandCursor);
+  setContentsMargins(6, 1, 6, 1);
 }
 
 void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
@@ -48,11 +49,17 @@ void ClickLabel::keyPressEvent(QKeyEvent* event) {
 // Draws the text itself: a label that takes the focus would set it higher than its neighbours.
 void ClickLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (isEnabled()) drawPlate(painter);
   style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(), text(),
                         foregroundRole());
-  if (!hasFocus()) return;
-  painter.setPen(QPen(theme::kFocus, 2));
-  painter.drawRect(rect().adjusted(1, 1, -1, -1));
+}
+
+// A light plate says that the label can be clicked; the focus thickens its edge.
+void ClickLabel::drawPlate(QPainter& painter) {
+  painter.setPen(hasFocus() ? QPen(theme::kFocus, 2) : QPen(theme::kEdge, 1));
+  painter.setBrush(theme::kPlate);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
 }
 
 ClickEdit::ClickEdit(std::function<void()> click, QWidget* parent) : QLineEdit(parent), click_(std::move(click)) {}

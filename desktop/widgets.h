@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <functional>
 
+class QPainter;
+
 namespace brolgan::desktop {
 
 class PictureStore;
@@ -21,6 +23,8 @@ class ClickLabel : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void drawPlate(QPainter& painter);
+
   std::function<void()> click_;
 };
 
