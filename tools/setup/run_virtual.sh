@@ -29,8 +29,17 @@ until xwininfo -root -tree 2>/dev/null | grep -q '"MainGame"'; do
   [ $waited -le 200 ] || { echo "The game shows no window." >&2; exit 1; }
   sleep 0.1
 done
-sleep 1
-import -window root "$picture"
+
+# The first picture that shows more than an empty screen.
+brightness=0
+while [ "$brightness" -lt 50 ]; do
+  waited=$((waited + 1))
+  kill -0 $game 2>/dev/null || { echo "The game ended before it showed anything." >&2; exit 1; }
+  [ $waited -le 300 ] || { echo "The game shows nothing." >&2; exit 1; }
+  sleep 0.3
+  import -window root "$picture"
+  brightness=$(identify -format '%[fx:int(mean*1000)]' "$picture")
+done
 echo "There is no display, so the game runs on a virtual one ($DISPLAY)."
 echo "Its first screenshot: $picture"
 echo "Stop it with Ctrl+C."
