@@ -53,7 +53,7 @@ QPixmap PictureStore::pixmap(const QString& name, QSize box, Qt::AspectRatioMode
   const QString key = keyOf(name, box, mode);
   if (const QPixmap* known = cache_.object(key)) return *known;
   auto prepared = prepared_.extract(key);
-  const QPixmap picture = QPixmap::fromImage(prepared ? prepared.mapped().get() : decode(pathOf(name), box, mode));
+  QPixmap picture = QPixmap::fromImage(prepared ? prepared.mapped().get() : decode(pathOf(name), box, mode));
   const int kilobytes = static_cast<int>(qint64{4} * picture.width() * picture.height() / 1024);
   cache_.insert(key, new QPixmap(picture), kilobytes);
   return picture;

@@ -43,8 +43,8 @@ void Main::GraczM_Click(int index) {
 void Main::Start_Click() {
   const int count = playersTakingPart();
   if (count < 1) return;
-  std::vector<std::string> names;
-  for (int i = 0; i < count; ++i) names.push_back(gracz[i].Text);
+  std::vector<std::string> names(static_cast<std::size_t>(count));
+  for (int i = 0; i < count; ++i) names[static_cast<std::size_t>(i)] = gracz[i].Text;
   writePlayerOrder(runtime_.OpenForOutput(kGameFile), count, names);
   writeShop(runtime_.OpenForOutput(kShopFile), "hero1.boh", Rzut(runtime_.random(), 1, 4));
   runtime_.Hide(kName);

@@ -29,7 +29,7 @@ std::string ItemReader::string(const Field& field) {
   if (!atEnd() && bytes_[at_] == '"') return fromCodePage(quoted());
   const std::size_t start = at_;
   at_ = std::min(bytes_.find_first_of(",\r\n", at_), bytes_.size());
-  const std::string text = fromCodePage(std::string_view(bytes_).substr(start, at_ - start));
+  std::string text = fromCodePage(std::string_view(bytes_).substr(start, at_ - start));
   skipDelimiter();
   return text;
 }
