@@ -4,19 +4,14 @@ sound that the data or the program name is made from a source there, and no sour
 nothing names."""
 import pathlib
 import re
-import subprocess
 import sys
+
+from tree import files
 
 ROW = re.compile(r"^\| `([^`]+)` \| .+ \| .+ \|$")
 ASSETS = pathlib.Path("assets")
 # Pictures and sounds that no data file names: the program names them itself.
 QUOTED = re.compile(r'"([a-z0-9-]+\.(?:jpg|png|wav)|guit\\\\[a-z0-9]+\.wav)"')
-
-
-def tracked(*patterns):
-    listed = subprocess.run(["git", "ls-files", "-co", "--exclude-standard", *patterns], capture_output=True,
-                            text=True, check=True)
-    return {line for line in listed.stdout.splitlines()}
 
 
 def lines(name):
@@ -35,7 +30,7 @@ def named_by_data():
 
 def named_by_program():
     names = set()
-    for path in tracked("*.cpp", "*.h"):
+    for path in files(endings=(".cpp", ".h")):
         if path.split("/")[0] not in ("tests", "bench", "fuzz", "tools"):
             names |= set(QUOTED.findall(pathlib.Path(path).read_text(encoding="utf-8")))
     return {name.replace("guit\\\\", "") for name in names}
@@ -48,7 +43,7 @@ def made_by_sources():
 
 def main():
     ledger = [match.group(1) for match in map(ROW.match, (ASSETS / "ledger.md").read_text("utf-8").splitlines()) if match]
-    there = tracked("assets/*") - {"assets/ledger.md"}
+    there = files("assets") - {"assets/ledger.md"}
     faults = [f"{path} is not in assets/ledger.md" for path in sorted(there - set(ledger))]
     faults += [f"assets/ledger.md lists {path}, which is not there" for path in sorted(set(ledger) - there)]
     faults += [f"assets/ledger.md lists {path} twice" for path in sorted({p for p in ledger if ledger.count(p) > 1})]

@@ -2,7 +2,7 @@
 # What can be told from the files alone: format, pictures against their sources, the ledger of
 # assets, and the list of odd rules.
 set -eu
-git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run -Werror
+find . -path ./build -prune -o -name '*.cpp' -print -o -name '*.h' -print | xargs clang-format --dry-run -Werror
 python3 assets/pictures/render.py --check
 python3 tools/checks/assets.py
 python3 tools/checks/quirks.py

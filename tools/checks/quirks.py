@@ -3,21 +3,20 @@
 its mark in the file that it names, and the test that it names exists."""
 import pathlib
 import re
-import subprocess
 import sys
+
+from tree import files
 
 ROW = re.compile(r"^\| `([a-z0-9-]+)` \| .+ \| `([^`]+)` \| `([^`]+)` \|$")
 
 
-def tracked(*patterns):
-    listed = subprocess.run(["git", "ls-files", "-co", "--exclude-standard", *patterns], capture_output=True,
-                            text=True, check=True)
-    return [pathlib.Path(line) for line in listed.stdout.splitlines()]
+def sources(folder):
+    return [pathlib.Path(path) for path in sorted(files(folder, (".cpp", ".h")))]
 
 
 def marks():
     found = {}
-    for path in tracked("*.cpp", "*.h"):
+    for path in sources("."):
         if path.parts[0] != "tests":
             for name in re.findall(r"\bMEANT\(([a-z0-9-]+)\)", path.read_text(encoding="utf-8")):
                 found.setdefault(name, []).append(str(path))
@@ -30,7 +29,7 @@ def rows():
 
 
 def tests():
-    text = "\n".join(path.read_text(encoding="utf-8") for path in tracked("tests/*.cpp"))
+    text = "\n".join(path.read_text(encoding="utf-8") for path in sources("tests"))
     return {f"{suite}.{name}" for suite, name in re.findall(r"\bTEST(?:_F|_P)?\(\s*(\w+),\s*(\w+)\s*\)", text)}
 
 
