@@ -21,9 +21,9 @@ CTsklep::CTsklep(Runtime& runtime) : DevelopmentForm(runtime) {
   Save = {.Caption = "Tak, Koniec", .Visible = false, .Enabled = false, .Click = [this] { Save_Click(); }};
   Heroshow.Click = [this] { Heroshow_Click(); };
   pics[0].Picture = "szyld.png";
-  pics[1].Picture = "stragan-czary.jpg";
-  pics[2].Picture = "stragan-bron.jpg";
-  pics[3].Picture = "stragan-cechy.jpg";
+  pics[1].Picture = "stragan-czary.png";
+  pics[2].Picture = "stragan-bron.png";
+  pics[3].Picture = "stragan-cechy.png";
   pics[4].Picture = "lampa.png";
   for (int i = 0; i < kGear; ++i) {
     Spec[i].ToolTipText = kGearTable[i].shopTip;

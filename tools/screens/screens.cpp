@@ -6,9 +6,11 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
+#include <QIcon>
 #include <QListWidget>
 #include <QScreen>
 #include <QTest>
+#include <algorithm>
 
 #include "desktop/face.h"
 #include "desktop/picture_store.h"
@@ -44,6 +46,8 @@ class Session {
   void play(int shopMode) {
     clock_.now = timeOfRoll(1, 4, shopMode);
     face_.start();
+    settle();
+    takeTitle();
     take("setup");
     click("Main", "GraczM(0)");
     developHero();
@@ -62,6 +66,7 @@ class Session {
     click("CTsklep", "w7");
     take("preparation");
     click("Prefight", "Zakoncz");
+    take("fight-start");
     fight();
     take("fight");
   }
@@ -90,8 +95,10 @@ class Session {
 
   void settle() { QTest::qWait(400); }
 
+  // Clicks near the left end, where the words of a narrow caption are.
   void click(const char* form, const QString& name) {
-    QTest::mouseClick(&widget(form, name), Qt::LeftButton);
+    QWidget& clicked = widget(form, name);
+    QTest::mouseClick(&clicked, Qt::LeftButton, {}, QPoint(std::min(24, clicked.width() / 2), clicked.height() / 2));
     settle();
   }
 
@@ -105,6 +112,15 @@ class Session {
     box.setCurrentText(text);
     emit box.activated(box.currentIndex());
     settle();
+  }
+
+  // The set-up stands in front of the title; for this picture it steps aside.
+  void takeTitle() {
+    QWidget& setup = *face_.window("Main");
+    setup.hide();
+    take("title");
+    setup.show();
+    setup.activateWindow();
   }
 
   void take(const QString& name) {
@@ -123,13 +139,19 @@ class Session {
   desktop::Face face_{runtime_, pictures_};
 };
 
+QIcon icon() {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128}) icon.addFile(QString("ikona-%1.png").arg(size));
+  return icon;
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   brolgan::desktop::theme::apply(application);
-  QApplication::setWindowIcon(QIcon("ikona.png"));
+  QApplication::setWindowIcon(icon());
   const QString folder = application.arguments().at(1);
   const QString hero = application.arguments().at(2);
   Session(folder, hero).play(2);
