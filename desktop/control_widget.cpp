@@ -63,7 +63,7 @@ struct Maker {
   QWidget* operator()(const Frame* frame) const {
     if (!frame->Caption.empty()) return new QGroupBox(parent);
     auto* widget = new QFrame(parent);
-    widget->setProperty("panel", true);
+    theme::makePanel(*widget);
     return widget;
   }
 

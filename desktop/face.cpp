@@ -63,14 +63,41 @@ void Face::fail(const char* text) {
   QCoreApplication::exit(1);
 }
 
+// To make a window and to show it takes an event each, so that neither holds up what a person does
+// next. Until then all windows stay as they are.
 void Face::synchronize() {
+  if (over_) return;
   if (runtime_.ended()) {
     over_ = true;
     QCoreApplication::exit(0);  // Not quit(), which asks the windows to close first; they decline.
     return;
   }
+  releaseGone();
+  if (makeWindow()) {
+    QMetaObject::invokeMethod(
+        this, [this] { synchronize(); }, Qt::QueuedConnection);
+    return;
+  }
   showOpened();
   hideClosed();
+}
+
+// Makes one window that an open form lacks; answers whether there was one to make.
+bool Face::makeWindow() {
+  for (const std::string& name : runtime_.loaded()) {
+    Form& opened = *form(name);
+    if (!opened.Visible || windows_.contains(name)) continue;
+    windows_[name] = std::make_unique<FormWindow>(name, opened, pictures_, events());
+    return true;
+  }
+  return false;
+}
+
+// Another form may come to lie at the address of one that is gone.
+void Face::releaseGone() {
+  for (const auto& [name, window] : windows_) {
+    if (form(name) == nullptr) window->release();
+  }
 }
 
 void Face::hideClosed() {
@@ -80,30 +107,27 @@ void Face::hideClosed() {
       if (takesTurns(name)) rememberPlace(*window);
       window->leaveScreen();
     }
-    if (shown == nullptr) window->release();
   }
 }
 
 void Face::showOpened() {
   for (const std::string& name : runtime_.loaded()) {
-    Form& shown = *form(name);
-    if (!shown.Visible) continue;
-    auto& window = windows_[name];
-    const bool fresh = !window || window->form() != &shown;
-    if (!window) {
-      window = std::make_unique<FormWindow>(name, shown, pictures_, events());
-    } else if (fresh) {
-      window->bind(shown);
-    } else {
-      window->mirrorAll();
-    }
-    if (window->isVisible() && !fresh) continue;
-    if (!window->isVisible()) place(name, *window);
-    window->show();
-    window->raise();
-    window->activateWindow();
-    window->focusFirst();
+    Form& opened = *form(name);
+    if (opened.Visible) show(name, opened);
   }
+}
+
+void Face::show(const std::string& name, Form& shown) {
+  FormWindow& window = *windows_.at(name);
+  const bool isFresh = window.form() != &shown;
+  isFresh ? window.bind(shown) : window.mirrorAll();
+  if (window.isVisible() && !isFresh) return;
+  if (!window.isVisible()) place(name, window);
+  window.show();
+  window.preparePictures();
+  window.raise();
+  window.activateWindow();
+  window.focusFirst();
 }
 
 void Face::rememberPlace(const FormWindow& window) { lastPlace_ = window.geometry().topLeft(); }
@@ -112,7 +136,7 @@ void Face::rememberPlace(const FormWindow& window) { lastPlace_ = window.geometr
 // bottom, so that neither hides the other; the sheet opens at the right edge.
 void Face::place(const std::string& name, FormWindow& window) {
   for (const auto& [other, open] : windows_) {
-    if (takesTurns(name) && takesTurns(other) && open && open->isVisible()) rememberPlace(*open);
+    if (takesTurns(name) && takesTurns(other) && open->isVisible()) rememberPlace(*open);
   }
   const QRect screen = window.screen()->availableGeometry();
   const QSize size = window.size().expandedTo(window.minimumSizeHint());
@@ -127,21 +151,32 @@ void Face::place(const std::string& name, FormWindow& window) {
   window.setGeometry(QRect(corner, size));
 }
 
+// The form that a person sees in the window of that name. While the next window is being made, one may
+// still stand there whose form is hidden or gone.
+Form* Face::formInSight(const std::string& name) const {
+  Form* const found = form(name);
+  const FormWindow* const seen = window(name);
+  const bool isInSight = found != nullptr && found->Visible && seen != nullptr && seen->isVisible();
+  return isInSight ? found : nullptr;
+}
+
 FormWindow::Events Face::events() {
   FormWindow::Events events;
   events.click = [this](const std::string& name, std::size_t index) {
-    Form* const target = form(name);
+    Form* const target = formInSight(name);
     if (target != nullptr) act([&] { click(runtime_, *target, entryOf(*target, index)); });
   };
   events.select = [this](const std::string& name, std::size_t index, int row) {
-    Form* const target = form(name);
+    Form* const target = formInSight(name);
     if (target != nullptr) act([&] { select(runtime_, entryOf(*target, index), row); });
   };
   events.type = [this](const std::string& name, std::size_t index, const QString& text) {
-    Form* const target = form(name);
+    Form* const target = formInSight(name);
     if (target != nullptr) type(entryOf(*target, index), text.toStdString());
   };
-  events.close = [this](const std::string& name) { act([&] { closeWindow(runtime_, name); }); };
+  events.close = [this](const std::string& name) {
+    if (formInSight(name) != nullptr) act([&] { closeWindow(runtime_, name); });
+  };
   return events;
 }
 

@@ -25,7 +25,7 @@ class Face : public QObject {
   // Opens the start form and with it the game.
   void start();
 
-  // The window of a form, null when it was never shown.
+  // The window of a form, null when it has none yet.
   [[nodiscard]] FormWindow* window(const std::string& name) const;
 
   // Tells of an error when the box is not to be shown on the screen; for tests.
@@ -35,11 +35,15 @@ class Face : public QObject {
   void act(const std::function<void()>& doing);
   void fail(const char* text);
   void synchronize();
+  bool makeWindow();
   void hideClosed();
+  void releaseGone();
   void showOpened();
+  void show(const std::string& name, Form& shown);
   void place(const std::string& name, FormWindow& window);
   void rememberPlace(const FormWindow& window);
   FormWindow::Events events();
+  [[nodiscard]] Form* formInSight(const std::string& name) const;
   Form* form(const std::string& name) const { return runtime_.find(name); }
 
   Runtime& runtime_;

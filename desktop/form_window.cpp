@@ -14,6 +14,7 @@
 #include "desktop/picture_store.h"
 #include "desktop/spoken_names.h"
 #include "desktop/text.h"
+#include "desktop/widgets.h"
 
 namespace brolgan::desktop {
 
@@ -87,6 +88,14 @@ void FormWindow::leaveScreen() {
   destroy();
 }
 
+void FormWindow::preparePictures() {
+  if (!background_.isEmpty()) pictures_.prepare(background_, pixels(), Qt::IgnoreAspectRatio);
+  for (QWidget* const widget : inOrder_) {
+    auto* const picture = dynamic_cast<PictureWidget*>(widget);
+    if (picture != nullptr && picture->isVisibleTo(this)) picture->prepare();
+  }
+}
+
 void FormWindow::focusFirst() {
   for (QWidget* const widget : inOrder_) {
     if (widget == nullptr || (widget->focusPolicy() & Qt::TabFocus) == 0 || !widget->isEnabled()) continue;
@@ -109,8 +118,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::paintEvent(QPaintEvent*) {
   if (background_.isEmpty()) return;
-  const QSize box = (QSizeF(size()) * devicePixelRatioF()).toSize();
-  QPixmap picture = pictures_.pixmap(background_, box, Qt::IgnoreAspectRatio);
+  QPixmap picture = pictures_.pixmap(background_, pixels(), Qt::IgnoreAspectRatio);
   picture.setDevicePixelRatio(devicePixelRatioF());
   QPainter(this).drawPixmap(0, 0, picture);
 }

@@ -39,6 +39,8 @@ class FormWindow : public QWidget {
   void mirrorAll();
   // Hides the window and gives back the memory of its picture on the screen.
   void leaveScreen();
+  // Begins to decode the pictures that are drawn next.
+  void preparePictures();
   // Puts the keyboard where a person starts.
   void focusFirst();
 
@@ -55,6 +57,7 @@ class FormWindow : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  [[nodiscard]] QSize pixels() const { return (QSizeF(size()) * devicePixelRatioF()).toSize(); }
   void makeWidgets(const Events& events);
   void orderTabs();
   [[nodiscard]] QWidget* parentOf(const ControlEntry& entry);

@@ -1,8 +1,8 @@
 // The program: the services of this machine, the runtime with all screens, and the face.
 #include <QApplication>
 #include <QIcon>
-#include <QImageReader>
 #include <QTimer>
+#include <array>
 #include <cstdlib>
 
 #include "desktop/face.h"
@@ -17,12 +17,20 @@
 
 namespace {
 
-// The icon can wait until the first window stands; decoding it would hold that up.
+constexpr std::array kIcons = {"ikona-16.png", "ikona-24.png", "ikona-32.png",
+                               "ikona-48.png", "ikona-64.png", "ikona-128.png"};
+constexpr std::array kLargeIcons = {"ikona-256.png", "ikona.png"};
+
+// The icon can wait until the first window stands; decoding it would hold that up. Every window hands all
+// sizes to the window manager, so the large ones are for dense screens alone.
 void setIconSoon(QApplication& application) {
-  QTimer::singleShot(250, &application, [] {
-    QImageReader reader("ikona.png");
-    reader.setScaledSize({64, 64});
-    QApplication::setWindowIcon(QIcon(QPixmap::fromImage(reader.read())));
+  QTimer::singleShot(250, &application, [&application] {
+    QIcon icon;
+    for (const char* file : kIcons) icon.addFile(file);
+    if (application.devicePixelRatio() > 1) {
+      for (const char* file : kLargeIcons) icon.addFile(file);
+    }
+    QApplication::setWindowIcon(icon);
   });
 }
 

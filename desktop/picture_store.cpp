@@ -43,10 +43,10 @@ void PictureStore::load(const std::string& name) {
   if (!QImageReader(path).canRead()) throw RuntimeError(ErrorCode::invalidPicture, {name, 0, {}});
 }
 
-void PictureStore::prepare(const QString& name, QSize box) {
-  const QString key = keyOf(name, box, Qt::KeepAspectRatio);
+void PictureStore::prepare(const QString& name, QSize box, Qt::AspectRatioMode mode) {
+  const QString key = keyOf(name, box, mode);
   if (name.isEmpty() || box.isEmpty() || cache_.contains(key) || prepared_.contains(key)) return;
-  prepared_[key] = std::async(std::launch::async, decode, pathOf(name), box, Qt::KeepAspectRatio);
+  prepared_[key] = std::async(std::launch::async, decode, pathOf(name), box, mode);
 }
 
 QPixmap PictureStore::pixmap(const QString& name, QSize box, Qt::AspectRatioMode mode) {

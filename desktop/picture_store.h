@@ -20,8 +20,9 @@ class PictureStore : public Pictures {
   // Raises 53 when the file is missing and 481 when it is no picture; the decoding waits for pixmap.
   void load(const std::string& name) override;
 
-  // Begins to decode a picture beside the event thread, for the first pixmap() of that name and box.
-  void prepare(const QString& name, QSize box);
+  // Begins to decode a picture beside the event thread, for the first pixmap() of that name, box and
+  // mode.
+  void prepare(const QString& name, QSize box, Qt::AspectRatioMode mode = Qt::KeepAspectRatio);
   // The picture scaled to fit into so many device pixels, or to fill them when its own proportions
   // do not matter; null when it cannot be read.
   QPixmap pixmap(const QString& name, QSize box, Qt::AspectRatioMode mode = Qt::KeepAspectRatio);

@@ -1,5 +1,5 @@
-// How the game looks: one palette, one style sheet, two typefaces. No layout names a colour or a
-// font of its own.
+// How the game looks: one palette, one style, two typefaces. No layout names a colour or a font of its
+// own.
 #pragma once
 
 #include <QColor>
@@ -8,6 +8,8 @@
 #include "flow/services/controls.h"
 
 class QApplication;
+class QFrame;
+class QLabel;
 class QWidget;
 
 namespace brolgan::desktop::theme {
@@ -17,12 +19,19 @@ inline const QColor kPaper("#efe2c4");
 inline const QColor kPanel("#f8f1de");
 inline const QColor kButton("#f3e6c8");
 inline const QColor kButtonHover("#fff6dc");
+inline const QColor kPressedFace("#d9c79c");
 inline const QColor kPlate("#fffaf0");
 inline const QColor kEdge("#b5793a");
-inline const QColor kDisabledText("#7d7768");
+inline const QColor kFieldEdge("#6b3a1f");
+inline const QColor kDisabledText("#6b6557");
+inline const QColor kDisabledFace("#eceae0");
+inline const QColor kDisabledEdge("#a39b88");
 inline const QColor kFocus("#2f6f6b");
+inline const QColor kFocusFace("#dcebe4");
+inline const QColor kFocusField("#ffffff");
+inline const QColor kSelection("#35807c");
 
-// Gives the application its palette, fonts and style sheet.
+// Gives the application its palette, fonts and style.
 void apply(QApplication& application);
 
 // The colour of the rules as it stands on the screen.
@@ -34,5 +43,11 @@ void makeHeading(QWidget& label);
 void makeFigure(QWidget& label);
 void makeBigFigure(QWidget& label);
 void makeSmall(QWidget& label);
+
+// Makes a frame the panel of a group of widgets, a label a round plate with a light figure, a button
+// a small one.
+void makePanel(QFrame& frame);
+void makeBadge(QLabel& label);
+void makeNarrow(QWidget& button);
 
 }  // namespace brolgan::desktop::theme

@@ -13,10 +13,15 @@ namespace brolgan::desktop {
 
 namespace {
 
+// The device pixels of an area of a widget.
+QSize pixelsOf(const QWidget& widget, QRect area) {
+  return (QSizeF(area.size()) * widget.devicePixelRatioF()).toSize();
+}
+
 void drawPicture(QWidget& widget, PictureStore& pictures, const QString& name, QRect area) {
   if (name.isEmpty() || area.isEmpty()) return;
   const qreal ratio = widget.devicePixelRatioF();
-  QPixmap picture = pictures.pixmap(name, (QSizeF(area.size()) * ratio).toSize());
+  QPixmap picture = pictures.pixmap(name, pixelsOf(widget, area));
   if (picture.isNull()) return;
   picture.setDevicePixelRatio(ratio);
   const QSizeF size = QSizeF(picture.size()) / ratio;
@@ -76,6 +81,8 @@ void PictureWidget::setName(const QString& name) {
   name_ = name;
   update();
 }
+
+void PictureWidget::prepare() { pictures_.prepare(name_, pixelsOf(*this, contentsRect())); }
 
 void PictureWidget::paintEvent(QPaintEvent*) { drawPicture(*this, pictures_, name_, contentsRect()); }
 

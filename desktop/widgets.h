@@ -47,6 +47,8 @@ class PictureWidget : public QLabel {
 
   void setName(const QString& name);
   [[nodiscard]] const QString& name() const { return name_; }
+  // Begins to decode the picture for its next drawing.
+  void prepare();
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -11,8 +11,8 @@ namespace {
 
 void layOutClasses(FormWindow& window) {
   auto* column = new QVBoxLayout(&window.at("Frame6"));
-  column->setContentsMargins(12, 8, 12, 8);
-  column->setSpacing(4);
+  column->setContentsMargins(12, 8, 12, 10);
+  column->setSpacing(8);
   theme::makeHeading(window.at("Label14"));
   column->addWidget(&window.at("Label14"));
   for (int i = 0; i < kClasses; ++i) column->addWidget(&window.at("Klasa", i));
@@ -46,7 +46,6 @@ QVBoxLayout* person(FormWindow& window) {
   layOutClasses(window);
   column->addWidget(&window.at("Frame6"));
   wrap(window.at("Label15"));
-  theme::makeSmall(window.at("Label15"));
   label(window, "Label15").setAlignment(Qt::AlignLeft | Qt::AlignTop);
   column->addWidget(&window.at("Label15"), 1);
   layOutSaving(window);
@@ -54,7 +53,7 @@ QVBoxLayout* person(FormWindow& window) {
   return column;
 }
 
-QHBoxLayout* decoration(FormWindow& window) {
+QHBoxLayout* trades(FormWindow& window) {
   auto* row = bare<QHBoxLayout>(8);
   for (int i = 0; i < 3; ++i) {
     window.at("pics", i).setMinimumSize(96, 96);
@@ -79,13 +78,13 @@ void layOutCreation(FormWindow& window) {
   auto* right = bare<QVBoxLayout>(10);
   right->addWidget(&window.at("fczar"));
   right->addWidget(&window.at("Frame4"));
-  right->addLayout(decoration(window), 1);
+  right->addLayout(trades(window), 1);
   auto* left = new QWidget(&window);
   left->setLayout(person(window));
   left->setFixedWidth(276);
   columns->addWidget(left);
-  columns->addLayout(middle, 5);
-  columns->addLayout(right, 4);
+  columns->addLayout(middle, 13);
+  columns->addLayout(right, 11);
   window.resize(1330, 712);
 }
 

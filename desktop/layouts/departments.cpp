@@ -11,7 +11,7 @@ namespace {
 
 // The small buttons that go with a row.
 void makeNarrow(QWidget& button) {
-  button.setProperty("narrow", true);
+  theme::makeNarrow(button);
   button.setFixedSize(30, 24);
 }
 
@@ -37,7 +37,7 @@ void addLadder(FormWindow& window, QGridLayout& grid, int row, int index) {
   for (int step = 0; window.has(member(name.c_str(), step)); ++step) {
     QWidget& label = window.at(name, step);
     alignCentre(label);
-    label.setMinimumWidth(dice ? 48 : 24);
+    label.setMinimumWidth(dice ? 46 : 23);
     const int span = dice ? 2 : 1;
     grid.addWidget(&label, row, column, 1, span);
     column += span;

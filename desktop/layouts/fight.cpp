@@ -1,5 +1,5 @@
-// The fight: the monster in the middle, the hero's figures at its left, its own at its right, row
-// beside row; the reports at the right edge, where they cover nothing; the actions below.
+// The fight: the monster in the middle, the hero at its left and its own figures at its right, row beside
+// row; under each the blows that he took, where their place is kept; the actions below.
 #include <array>
 
 #include "desktop/layouts/grid.h"
@@ -9,35 +9,41 @@ namespace brolgan::desktop {
 
 namespace {
 
+constexpr int kHead = 64;
+constexpr int kFigures = 4;
+
 QFrame* panel(FormWindow& window) {
   auto* frame = new QFrame(&window);
-  frame->setProperty("panel", true);
+  theme::makePanel(*frame);
   return frame;
 }
 
-// One column of figures: a heading, then name and value in four rows.
-QFrame* figures(FormWindow& window, int firstLegend, const char* values) {
+// Heading, and name beside value in four rows. The values stand at the monster's side of the panel, so
+// that those of hero and monster face each other across it.
+QFrame* figures(FormWindow& window, int firstLegend, const char* values, bool valuesFirst) {
   QFrame* const frame = panel(window);
-  QGridLayout& grid = *gridIn(*frame, 12, 4);
-  theme::makeHeading(window.at("Label2", firstLegend));
-  grid.addWidget(&window.at("Label2", firstLegend), 0, 0, 1, 2);
-  for (int i = 0; i < 4; ++i) {
+  QGridLayout& grid = *gridIn(*frame, 12, 6);
+  QWidget& heading = window.at("Label2", firstLegend);
+  theme::makeHeading(heading);
+  grid.addWidget(&heading, 0, 0, 1, 2);
+  for (int i = 0; i < kFigures; ++i) {
     QWidget& legend = window.at("Label2", firstLegend + 1 + i);
     QWidget& value = window.at(values, i);
-    const bool dice = i == 3;
-    dice ? theme::makeFigure(value) : theme::makeBigFigure(value);
-    alignRight(value);
-    grid.addWidget(&legend, 1 + (dice ? 4 : i), 0, 1, dice ? 2 : 1);
-    grid.addWidget(&value, 1 + (dice ? 5 : i), dice ? 0 : 1, 1, dice ? 2 : 1);
+    const bool isDice = i == kFigures - 1;
+    isDice ? theme::makeFigure(value) : theme::makeBigFigure(value);
+    alignRight(valuesFirst ? legend : value);
+    grid.addWidget(&legend, 1 + i, valuesFirst ? 1 : 0);
+    grid.addWidget(&value, 1 + i, valuesFirst ? 0 : 1);
+    grid.setRowMinimumHeight(1 + i, 32);
   }
-  grid.setRowStretch(7, 1);
-  grid.setColumnStretch(0, 1);
+  if (valuesFirst) alignRight(heading);
+  grid.setColumnStretch(valuesFirst ? 1 : 0, 1);
   return frame;
 }
 
 void layOutReport(FormWindow& window, const char* frame, const std::array<const char*, 5>& parts) {
-  QGridLayout& grid = *gridIn(window.at(frame), 12, 4);
-  window.at(parts[0]).setFixedSize(76, 76);
+  QGridLayout& grid = *gridIn(window.at(frame), 14, 6);
+  window.at(parts[0]).setFixedSize(104, 104);
   theme::makeHeading(window.at(parts[1]));
   theme::makeBigFigure(window.at(parts[2]));
   theme::makeHeading(window.at(parts[3]));
@@ -52,57 +58,78 @@ void layOutReport(FormWindow& window, const char* frame, const std::array<const 
   grid.setColumnStretch(1, 1);
   grid.setRowStretch(1, 1);
   keepRoom(window.at(frame));
-  window.at(frame).setMinimumHeight(180);
 }
 
-QVBoxLayout* reports(FormWindow& window) {
-  layOutReport(window, "FZad", {"Picture2", "Label4", "IleZad", "OpisZad", "CloseZad"});
+// A report and the faint picture in its place while there is none.
+QGridLayout* over(FormWindow& window, const char* report, const QString& picture, QSize size) {
+  auto* place = bare<QGridLayout>(0);
+  QWidget* const faint = decoration(window, picture, size);
+  faint->setEnabled(false);
+  place->addWidget(faint, 0, 0, Qt::AlignCenter);
+  place->addWidget(&window.at(report), 0, 0);
+  window.at(report).raise();
+  return place;
+}
+
+// The hero: his sheet and what he is warned of, his figures, the blows that he took.
+QVBoxLayout* hero(FormWindow& window) {
   layOutReport(window, "FDamage", {"Picture1", "Label3", "IleDMG", "OpisDMG", "CloseDMG"});
-  window.at("FZad").setProperty("panel", true);
-  auto* column = bare<QVBoxLayout>(8);
-  column->addWidget(&window.at("FZad"), 1);
-  column->addWidget(&window.at("FDamage"), 1);
+  auto* head = bare<QHBoxLayout>(12);
+  window.at("Heroshow").setFixedSize(kHead, kHead);
+  head->addWidget(&window.at("Heroshow"));
   wrap(window.at("Uwaga"));
   theme::makeHeading(window.at("Uwaga"));
   keepRoom(window.at("Uwaga"));
-  window.at("Uwaga").setMinimumHeight(48);
-  column->addWidget(&window.at("Uwaga"));
+  head->addWidget(&window.at("Uwaga"), 1);
+  auto* column = bare<QVBoxLayout>(8);
+  column->addLayout(head);
+  column->addWidget(figures(window, 0, "Pstat", false));
+  column->addLayout(over(window, "FDamage", "herb.png", {150, 150}), 1);
   return column;
 }
 
 QHBoxLayout* distance(FormWindow& window) {
   auto* row = bare<QHBoxLayout>(8);
   theme::makeHeading(window.at("Odl"));
+  window.at("Odl").setMinimumHeight(kHead);
+  row->addStretch();
   row->addWidget(&window.at("Label1"));
   row->addWidget(&window.at("Odl"));
-  row->addStretch();
   return row;
 }
 
-QVBoxLayout* monster(FormWindow& window) {
-  auto* column = bare<QVBoxLayout>(6);
+// The monster's side: how far it is, its figures, the blows that it took.
+QVBoxLayout* foe(FormWindow& window) {
+  layOutReport(window, "FZad", {"Picture2", "Label4", "IleZad", "OpisZad", "CloseZad"});
+  auto* column = bare<QVBoxLayout>(8);
   column->addLayout(distance(window));
-  window.at("Potwór").setFixedSize(432, 432);
-  // How many are left stands on the picture, in its corner.
+  column->addWidget(figures(window, 5, "Mstat", true));
+  column->addLayout(over(window, "FZad", "kosci.png", {107, 187}), 1);
+  return column;
+}
+
+// The monster's picture; how many are left stands in its corner.
+QFrame* monster(FormWindow& window) {
+  QFrame* const frame = panel(window);
+  QGridLayout& scene = *gridIn(*frame, 0, 0);
+  window.at("Potwór").setFixedSize(kMonster);
   QWidget& left = window.at("LIle");
-  left.setProperty("badge", true);
+  theme::makeBadge(static_cast<QLabel&>(left));
   theme::makeBigFigure(left);
   alignCentre(left);
-  auto* scene = bare<QGridLayout>(0);
-  scene->addWidget(&window.at("Potwór"), 0, 0);
-  scene->addWidget(&left, 0, 0, Qt::AlignRight | Qt::AlignBottom);
+  scene.addWidget(&window.at("Potwór"), 0, 0);
+  scene.addWidget(&left, 0, 0, Qt::AlignRight | Qt::AlignBottom);
   left.raise();
-  column->addLayout(scene);
-  column->addStretch();
-  return column;
+  return frame;
 }
 
 QFrame* actions(FormWindow& window) {
   QFrame* const frame = panel(window);
-  QGridLayout& grid = *gridIn(*frame, 10, 8);
-  for (const char* list : {"Bron", "Czar", "Przedmiot"}) window.at(list).setMinimumSize(160, 34);
+  QGridLayout& grid = *gridIn(*frame, 8, 6);
+  grid.setHorizontalSpacing(8);
+  for (const char* list : {"Bron", "Czar", "Przedmiot"}) window.at(list).setMinimumSize(160, 32);
   for (const char* button : {"Atak", "Rzuc", "Uzyj"}) window.at(button).setMinimumSize(110, 38);
-  window.at("mana").setFixedSize(52, 34);
+  window.at("mana").setFixedSize(52, 32);
   grid.addWidget(&window.at("Bron"), 0, 0, 1, 2);
   grid.addWidget(&window.at("Atak"), 1, 0, 1, 2);
   grid.addWidget(&window.at("Czar"), 0, 3);
@@ -110,7 +137,7 @@ QFrame* actions(FormWindow& window) {
   grid.addWidget(&window.at("Rzuc"), 1, 3, 1, 2);
   grid.addWidget(&window.at("Przedmiot"), 0, 6, 1, 2);
   grid.addWidget(&window.at("Uzyj"), 1, 6, 1, 2);
-  window.at("NastTura").setMinimumSize(190, 80);
+  window.at("NastTura").setMinimumSize(190, 76);
   theme::makeHeading(window.at("NastTura"));
   grid.addWidget(&window.at("NastTura"), 0, 9, 2, 1);
   for (const int gap : {2, 5, 8}) grid.setColumnMinimumWidth(gap, 18);
@@ -122,23 +149,13 @@ QFrame* actions(FormWindow& window) {
 
 void layOutFight(FormWindow& window) {
   window.setBackground("walka.jpg");
-  auto* left = bare<QVBoxLayout>(8);
-  window.at("Heroshow").setFixedSize(64, 64);
-  left->addWidget(&window.at("Heroshow"), 0, Qt::AlignLeft);
-  left->addWidget(figures(window, 0, "Pstat"));
-  left->addStretch();
-  auto* right = bare<QVBoxLayout>(8);
-  right->addSpacing(72);
-  right->addWidget(figures(window, 5, "Mstat"));
-  right->addStretch();
-  auto* scene = bare<QHBoxLayout>(12);
-  scene->addLayout(left, 5);
-  scene->addLayout(monster(window));
-  scene->addLayout(right, 4);
-  scene->addLayout(reports(window), 5);
+  auto* scene = bare<QHBoxLayout>(14);
+  scene->addLayout(hero(window), 1);
+  scene->addWidget(monster(window), 0, Qt::AlignCenter);
+  scene->addLayout(foe(window), 1);
   auto* all = new QVBoxLayout(&window);
-  all->setContentsMargins(66, 62, 66, 58);
-  all->setSpacing(10);
+  all->setContentsMargins(66, 56, 66, 54);
+  all->setSpacing(8);
   all->addLayout(scene, 1);
   all->addWidget(actions(window));
   window.resize(1340, 716);

@@ -9,9 +9,14 @@
 #include <string>
 
 #include "desktop/form_window.h"
+#include "desktop/picture_store.h"
 #include "desktop/theme.h"
+#include "desktop/widgets.h"
 
 namespace brolgan::desktop {
+
+// The monster is as large in the fight as before it, so that its picture is decoded once.
+inline constexpr QSize kMonster(496, 496);
 
 // A layout without margins of its own.
 template <class Layout>
@@ -55,6 +60,15 @@ inline void alignRight(QWidget& widget) {
 inline void alignCentre(QWidget& widget) { static_cast<QLabel&>(widget).setAlignment(Qt::AlignCenter); }
 
 inline void wrap(QWidget& widget) { static_cast<QLabel&>(widget).setWordWrap(true); }
+
+// A picture that belongs to no control, decoded while the window is made.
+inline QWidget* decoration(FormWindow& window, const QString& picture, QSize size) {
+  auto* widget = new PictureWidget(window.pictures(), &window);
+  widget->setName(picture);
+  widget->setFixedSize(size);
+  window.pictures().prepare(picture, (QSizeF(size) * window.devicePixelRatioF()).toSize());
+  return widget;
+}
 
 // "PLUS(3)" for a member of a control array.
 inline std::string member(const char* name, int index) { return std::string(name) + "(" + std::to_string(index) + ")"; }

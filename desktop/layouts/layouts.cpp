@@ -1,6 +1,9 @@
 #include "desktop/layouts/layouts.h"
 
+#include <QLayout>
 #include <map>
+
+#include "desktop/form_window.h"
 
 namespace brolgan::desktop {
 
@@ -10,7 +13,10 @@ void layOut(const std::string& name, FormWindow& window) {
       {"Prefight", layOutPreparation}, {"Fight", layOutFight}, {"FHero", layOutSheet},
   };
   const auto found = layouts.find(name);
-  if (found != layouts.end()) found->second(window);
+  if (found == layouts.end()) return;
+  found->second(window);
+  // All places are worked out at once, so that showing the window takes less time.
+  window.layout()->activate();
 }
 
 }  // namespace brolgan::desktop

@@ -28,26 +28,32 @@ QGridLayout* players(FormWindow& window) {
   return grid;
 }
 
-}  // namespace
-
-void layOutSetup(FormWindow& window) {
-  auto* column = new QVBoxLayout(&window);
-  column->setContentsMargins(28, 22, 28, 24);
-  column->setSpacing(12);
-  column->addLayout(players(window));
-  column->addWidget(&window.at("Label3"));
-  column->addSpacing(8);
-  auto* start = bare<QHBoxLayout>(12);
+QHBoxLayout* start(FormWindow& window) {
+  auto* row = bare<QHBoxLayout>(12);
   theme::makeHeading(window.at("Label2"));
   window.at("ile_punktow").setFixedSize(80, 34);
   window.at("Start").setMinimumSize(160, 44);
   theme::makeHeading(window.at("Start"));
-  start->addWidget(&window.at("Label2"));
-  start->addWidget(&window.at("ile_punktow"));
-  start->addStretch();
-  start->addWidget(&window.at("Start"));
-  column->addLayout(start);
-  window.setFixedSize(window.sizeHint().expandedTo({620, 360}));
+  row->addWidget(&window.at("Label2"));
+  row->addWidget(&window.at("ile_punktow"));
+  row->addStretch();
+  row->addWidget(&window.at("Start"));
+  return row;
+}
+
+}  // namespace
+
+void layOutSetup(FormWindow& window) {
+  auto* column = bare<QVBoxLayout>(12);
+  column->addLayout(players(window));
+  column->addWidget(&window.at("Label3"));
+  column->addLayout(start(window));
+  auto* row = new QHBoxLayout(&window);
+  row->setContentsMargins(20, 16, 28, 20);
+  row->setSpacing(20);
+  row->addWidget(decoration(window, "kosci.png", {150, 262}));
+  row->addLayout(column, 1);
+  window.setFixedSize(window.sizeHint().expandedTo({760, 320}));
 }
 
 }  // namespace brolgan::desktop

@@ -39,17 +39,19 @@ void layOutSheet(FormWindow& window) {
   theme::makeTitle(window.at("Imie"));
   theme::makeHeading(window.at("klasa"));
   window.at("HeroClose").setFixedSize(48, 48);
-  head->addWidget(&window.at("Imie"), 0, 0);
-  head->addWidget(&window.at("klasa"), 1, 0);
-  head->addWidget(&window.at("HeroClose"), 0, 1, 2, 1);
-  head->setColumnStretch(0, 1);
+  head->addWidget(decoration(window, "herb.png", {104, 104}), 0, 0, 2, 1);
+  head->addWidget(&window.at("Imie"), 0, 1, Qt::AlignBottom);
+  head->addWidget(&window.at("klasa"), 1, 1, Qt::AlignTop);
+  head->addWidget(&window.at("HeroClose"), 0, 2, 2, 1, Qt::AlignTop);
+  head->setHorizontalSpacing(14);
+  head->setColumnStretch(1, 1);
   all->addLayout(head);
   all->addLayout(figures(window));
   auto* lists = bare<QHBoxLayout>(12);
   lists->addLayout(list(window, "Label1", "Bron"), 1);
   lists->addLayout(list(window, "Label2", "Stwory"), 1);
   all->addLayout(lists, 1);
-  window.resize(560, 520);
+  window.resize(560, 560);
 }
 
 }  // namespace brolgan::desktop

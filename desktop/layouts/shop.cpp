@@ -26,7 +26,7 @@ void layOutZones(FormWindow& window) {
   column->setSpacing(4);
   for (int i = 1; i <= 12; ++i) {
     QWidget& zone = window.at("w" + std::to_string(i));
-    zone.setMinimumHeight(30);
+    zone.setMinimumHeight(38);
     column->addWidget(&zone);
   }
 }
@@ -66,7 +66,7 @@ QWidget* leftColumn(FormWindow& window) {
   return left;
 }
 
-QHBoxLayout* decoration(FormWindow& window) {
+QHBoxLayout* signs(FormWindow& window) {
   auto* row = bare<QHBoxLayout>(8);
   for (const int i : {0, 4}) {
     window.at("pics", i).setMinimumSize(60, 60);
@@ -93,7 +93,7 @@ void layOutShop(FormWindow& window) {
   auto* right = bare<QVBoxLayout>(10);
   right->addLayout(stacked(window, "fczar", 1));
   right->addWidget(&window.at("Frame4"));
-  right->addLayout(decoration(window), 1);
+  right->addLayout(signs(window), 1);
   columns->addWidget(leftColumn(window));
   columns->addLayout(middle, 5);
   columns->addLayout(right, 4);

@@ -70,9 +70,14 @@ void Stage::prepare() {
   face.onError = [this](const QString& text) { errors.push_back(text.toStdString()); };
 }
 
+void Stage::settle() {
+  constexpr int kWindows = 7;
+  for (int i = 0; i <= kWindows; ++i) QApplication::processEvents();
+}
+
 void Stage::start() {
   face.start();
-  QApplication::processEvents();
+  settle();
 }
 
 void Stage::open(const std::vector<std::string>& forms) {
@@ -141,7 +146,7 @@ std::vector<std::string> Stage::rows(const std::string& form, const std::string&
 
 void Stage::clickAt(QWidget& top, const QWidget& widget, QPoint place) {
   QTest::mouseClick(top.windowHandle(), Qt::LeftButton, {}, widget.mapTo(&top, place));
-  QApplication::processEvents();
+  settle();
 }
 
 void Stage::click(const std::string& form, const std::string& control) {
@@ -176,12 +181,12 @@ void Stage::write(const std::string& form, const std::string& control, const std
 
 void Stage::close(const std::string& form) {
   window(form).close();
-  QApplication::processEvents();
+  settle();
 }
 
 void Stage::press(const std::string& form, Qt::Key key, Qt::KeyboardModifiers with) {
   QTest::keyClick(window(form).windowHandle(), key, with);
-  QApplication::processEvents();
+  settle();
 }
 
 void Stage::typeKeys(const std::string& form, const std::string& text) {
@@ -189,7 +194,7 @@ void Stage::typeKeys(const std::string& form, const std::string& text) {
   for (const QChar letter : desktop::toQt(text)) {
     QTest::sendKeyEvent(QTest::Click, window, Qt::Key_unknown, QString(letter), Qt::NoModifier);
   }
-  QApplication::processEvents();
+  settle();
 }
 
 std::string Stage::focus(const std::string& form) const {

@@ -30,6 +30,10 @@ class Stage {
   // Starts with other screens in place of title and set-up; one that is open already opens afresh.
   void open(const std::vector<std::string>& forms);
 
+  // Lets all that has been done come to rest. Every window takes an event to be made, and they take
+  // one more to be shown.
+  static void settle();
+
   // The window of a form; fails when it was never shown.
   [[nodiscard]] desktop::FormWindow& window(const std::string& form) const;
   [[nodiscard]] bool isShown(const std::string& form) const;
