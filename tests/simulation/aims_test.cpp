@@ -47,7 +47,7 @@ std::string lengthFaults(const std::vector<GameRecord>& games) {
   const int middle = quantile(turns, 0.5);
   std::string faults;
   if (tooLow(ended, 0.95, games.size())) faults += "too few games end; ";
-  if (tooLow(within, 0.6, turns.size())) faults += "too few games end in turns 18 to 30; ";
+  if (tooLow(within, 0.75, turns.size())) faults += "too few games end in turns 18 to 30; ";
   if (middle < 21 || middle > 26) faults += "the median turn is " + std::to_string(middle) + "; ";
   if (turns.front() <= 8) faults += "a game ends in turn " + std::to_string(turns.front()) + "; ";
   return faults;

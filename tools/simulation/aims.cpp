@@ -69,7 +69,8 @@ Aim gambleAim(const Tallies& tallies) {
 }
 
 Aim throneAim(const Tallies& tallies) {
-  return {"„Tron Królów” nie dla młodych (przed turą 12)", "0 walk", std::to_string(tallies.earlyThrones) + " walk",
+  return {"„Tron Królów” nie dla młodych (przed turą 12)", "najwyżej jedna walka na 2000",
+          std::to_string(tallies.earlyThrones) + " z " + std::to_string(tallies.allTurns),
           tallies.earlyThrones <= tallies.allTurns / 2000};
 }
 
@@ -138,7 +139,7 @@ std::vector<Aim> lengthAims(const Study& study) {
   const int middle = quantile(turns, 0.5);
   const int first = turns.empty() ? 0 : turns.front();
   const double ended = percent(static_cast<double>(turns.size()), static_cast<double>(study.games.size()));
-  return {{"Zwycięstwo w turach 18–30", "≥ 60%", withPercent(share), share >= 60},
+  return {{"Zwycięstwo w turach 18–30", "≥ 75%", withPercent(share), share >= 75},
           {"Mediana tury zwycięstwa", "22–25", std::to_string(middle), middle >= 22 && middle <= 25},
           {"Najszybsza partia", "po turze 8", "tura " + std::to_string(first), first > 8},
           {"Partie zakończone zwycięstwem", "≥ 95%", withPercent(ended), ended >= 95}};

@@ -12,7 +12,7 @@ namespace {
 // A purchase at hand is taken when it helps nearly as much as the best that money could buy later.
 constexpr double kGoodEnough = 0.5;
 constexpr double kUseless = 0.0008;
-constexpr int kPatience = 10;
+constexpr int kPatience = 14;
 // One visit in so many finds a player in the mood for a gamble.
 constexpr int kDaring = 8;
 
@@ -119,7 +119,7 @@ void CarefulMind::enter(FightScreen& screen) {
 
 bool CarefulMind::castSpell(FightScreen& screen, const char* name) {
   if (!screen.mayCast() || !screen.chooseSpell(name)) return false;
-  if (name == kBullShotsSpell) screen.typeMagic(bullMagic(screen.magic(), screen.targetArmour()));
+  if (name == kBullShotsSpell) screen.typeMagic(bullMagic(screen.magic(), screen.targetLife(), screen.targetArmour()));
   screen.cast();
   return true;
 }

@@ -55,6 +55,8 @@ class Judgement {
   [[nodiscard]] double power(const HeroNotes& hero, const Sight& sight, const Plan& plan) const;
   [[nodiscard]] double powerWithSpells(const HeroNotes& hero, const Sight& sight) const;
   [[nodiscard]] double powerWith(const HeroNotes& hero, const Sight& sight, const Offer& offer) const;
+  void creditBundles(const HeroNotes& hero, const std::vector<Offer>& wares, const std::vector<Sight>& sights,
+                     std::vector<double>& gains) const;
 
   const Knowledge& known_;
   Foresight foresight_;
@@ -64,9 +66,6 @@ class Judgement {
 
 // Puts what was bought into the notes.
 void own(HeroNotes& hero, const Offer& offer);
-
-// The magic that a player puts into one "BullShots".
-int bullMagic(int magic, int armour);
 
 // Endurance and magic that a hero can reckon with on the day of a fight, in the long run.
 HeroNotes onAnOrdinaryDay(HeroNotes hero);

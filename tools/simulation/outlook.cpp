@@ -14,18 +14,34 @@ constexpr double kHealingMean = 3.5;
 // Healing in the midst of blows comes too late at times, so less of it is reckoned with.
 constexpr double kHealingBeside = 2.5;
 constexpr double kHealingDoubt = 8;
-constexpr double kShieldMean = 5.5;
+// The shield's one throw, in its worse and its better half.
+constexpr double kPoorShield = 3;
+constexpr double kGoodShield = 8;
 constexpr int kShieldRounds = 7;
 constexpr double kGrenadeMean = 15.5;
 constexpr double kGrenadeVariance = 70;
+constexpr double kGrenadeFaces = 30;
 constexpr double kMortarBonus = 8;
 constexpr double kSuckerMean = 2;
+
+Blow anyGrenade(const HeroNotes& hero) { return {kGrenadeMean + (hero.mortar ? kMortarBonus : 0), kGrenadeVariance}; }
+
+Blow grenadeBetween(double low, double high, double bonus) {
+  return {(low + high) / 2 + bonus, (high - low) * (high - low) / 12};
+}
+
+// The throws on which a whole fight may hang.
+struct Luck {
+  Blow grenade;
+  double shield = 0;
+};
 
 // The course of one fight in means: what was dealt to the target and to all, what was suffered.
 class Course {
  public:
-  Course(const Knowledge& known, const HeroNotes& hero, const Monster& monster, const Plan& plan)
+  Course(const Knowledge& known, const HeroNotes& hero, const Monster& monster, const Plan& plan, const Luck& luck)
       : hero_(hero),
+        grenade_(luck.grenade),
         monster_(monster),
         plan_(plan),
         weapon_(known.weapons[static_cast<std::size_t>(plan.weapon)]),
@@ -33,7 +49,7 @@ class Course {
         magic_(hero.magic),
         grenades_(std::min(plan.grenades, hero.grenades)) {
     bare_ = strikeOf(hero.value(kArmour));
-    covered_ = plan.shield ? strikeOf(hero.value(kArmour) + kShieldMean) : bare_;
+    covered_ = plan.shield ? strikeOf(hero.value(kArmour) + luck.shield) : bare_;
   }
 
   Outlook run(bool monstersFirst) {
@@ -46,7 +62,7 @@ class Course {
       const double standing = countStanding();
       if (standing < 0.02) break;
       answer(standing, round);
-      if (harm_ > 8.0 * hero_.endurance + 60) break;
+      if (harm_ > 4.0 * hero_.endurance + 40) break;
     }
     return conclude(round);
   }
@@ -91,8 +107,8 @@ class Course {
     if (plan_.spell == kDamage && magic_ >= 2) return pay(2), hitTarget({10.5, 8 * 1.0}, armour), true;
     if (plan_.spell == kBoom && magic_ >= 4) return pay(4), hitTarget({31, 140}, armour), true;
     if (plan_.spell == kBullShots && magic_ >= 2) {
-      const double used = magic_;
-      magic_ = 0;
+      const int used = bullMagic(static_cast<int>(magic_), lifeOfLast(), monster_.armour);
+      magic_ -= used;
       hitAll({10.5 + (used - 2) * 2, 8}, armour);
       return true;
     }
@@ -151,8 +167,7 @@ class Course {
   void throwGrenade() {
     if (grenadesUsed_ >= grenades_) return;
     ++grenadesUsed_;
-    const double bonus = hero_.mortar ? kMortarBonus : 0;
-    hitAll({kGrenadeMean + bonus, kGrenadeVariance}, monster_.armour);
+    hitAll(grenadesUsed_ == 1 ? grenade_ : anyGrenade(hero_), monster_.armour);
   }
 
   // How many of the group are likely to stand after what was dealt so far.
@@ -161,9 +176,11 @@ class Course {
     const double spread = std::sqrt(variance_ + 1);
     const double each = attacks_ > 0 ? dealt_ / attacks_ : 0;
     const double waste = weapon_.fire ? monster_.armour : std::max(each / 2, each - std::max(life, 0.0));
+    // What struck all of them equally fells all or none.
+    const bool alike = attacks_ == 0 || life <= 0;
     double standing = 0;
     for (int k = 1; k <= monster_.count; ++k) {
-      const double needed = k * life + (k - 1) * waste;
+      const double needed = alike ? life : k * life + (k - 1) * waste;
       lastStands_ = life <= -2 * spread ? 0 : 1 - below((dealt_ + 0.5 - needed) / spread);
       standing += lastStands_;
     }
@@ -196,7 +213,11 @@ class Course {
     return {win, harm_, magic_, static_cast<double>(grenadesUsed_), static_cast<double>(ammo_), sumLast_ + 1};
   }
 
+  // What is left of the front monster's life.
+  [[nodiscard]] int lifeOfLast() const { return std::max(1, static_cast<int>(std::lround(monster_.life - toAll_))); }
+
   const HeroNotes& hero_;
+  Blow grenade_;
   const Monster& monster_;
   const Plan& plan_;
   const Weapon& weapon_;
@@ -224,6 +245,17 @@ class Course {
   double sumLastSquared_ = 0;
 };
 
+// What is to be expected when the first outlook comes true with that chance and else the second.
+Outlook mixed(const Outlook& first, double chance, const Outlook& second) {
+  const auto mix = [chance](double a, double b) { return chance * a + (1 - chance) * b; };
+  return {mix(first.win, second.win),
+          mix(first.harm, second.harm),
+          mix(first.magicLeft, second.magicLeft),
+          mix(first.grenadesUsed, second.grenadesUsed),
+          mix(first.ammoUsed, second.ammoUsed),
+          mix(first.rounds, second.rounds)};
+}
+
 }  // namespace
 
 Blow blowOf(const HeroNotes& hero, const Weapon& weapon, int weaponIndex) {
@@ -248,12 +280,33 @@ double pastArmour(const Blow& blow, double armour) {
 double below(double x) {
   if (x > 4) return 1;
   if (x < -4) return 0;
-  return 1 / (1 + std::exp(-1.5976 * x - 0.07056 * x * x * x));
+  const auto slope = static_cast<float>(-1.5976 * x - 0.07056 * x * x * x);
+  return 1 / (1 + std::exp(slope));
+}
+
+int bullMagic(int magic, int life, int armour) {
+  constexpr int kPoorThrow = 8;
+  const int missing = life + armour - kPoorThrow;
+  const int wanted = missing <= 0 ? 2 : 2 + (missing + 1) / 2;
+  if (wanted <= magic) return wanted;
+  return armour < 6 ? 2 : std::max(magic, 2);
 }
 
 Outlook foresee(const Knowledge& known, const HeroNotes& hero, const Monster& monster, const Plan& plan,
                 int initiative) {
-  return Course(known, hero, monster, plan).run(initiative <= monster.speed);
+  const bool monstersFirst = initiative <= monster.speed;
+  const auto run = [&](const Blow& grenade) {
+    const auto shielded = [&](double shield) {
+      return Course(known, hero, monster, plan, {grenade, shield}).run(monstersFirst);
+    };
+    return plan.shield && hero.magic >= 2 ? mixed(shielded(kPoorShield), 0.5, shielded(kGoodShield)) : shielded(0);
+  };
+  const double bonus = hero.mortar ? kMortarBonus : 0;
+  const double needed = monster.life + monster.armour - bonus;
+  if (plan.grenades == 0 || hero.grenades == 0 || needed <= 1 || needed >= kGrenadeFaces) return run(anyGrenade(hero));
+  const double weak = (needed - 1) / (kGrenadeFaces - 1);
+  return mixed(run(grenadeBetween(1, needed - 0.5, bonus)), weak,
+               run(grenadeBetween(needed - 0.5, kGrenadeFaces, bonus)));
 }
 
 }  // namespace brolgan::simulation

@@ -24,7 +24,7 @@ struct Outlook {
   double rounds = 0;
 };
 
-inline constexpr int kHopelessRounds = 40;
+inline constexpr int kHopelessRounds = 30;
 
 // The damage of one attack before armour.
 struct Blow {
@@ -38,6 +38,10 @@ double pastArmour(const Blow& blow, double armour);
 
 // The share of a normal distribution below x.
 double below(double x);
+
+// The magic, at least 2, that a player puts into one "BullShots": enough to fell the target with a poor throw,
+// and where that cannot be, everything against thick armour and the least against thin.
+int bullMagic(int magic, int life, int armour);
 
 // Reckons the fight that the hero would have with that initiative.
 Outlook foresee(const Knowledge& known, const HeroNotes& hero, const Monster& monster, const Plan& plan,

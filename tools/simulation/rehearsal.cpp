@@ -101,7 +101,7 @@ class Bout {
   }
 
   void castBullShots() {
-    const int used = bullMagic(magic_, armour_[0]);
+    const int used = bullMagic(magic_, lives_[standing_ - 1], armour_[standing_ - 1]);
     hitAll(dice_.roll(1, 6, 3) + (used - 2) * 2);
     pay(used);
   }

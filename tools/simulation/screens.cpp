@@ -208,15 +208,15 @@ const PreparationPlaces& preparationPlaces(const ControlTable& table) {
 
 struct FightPlaces {
   std::size_t weapon, attack, spell, magic, cast, item, use, next, figures, report, wound, woundText, closeWound,
-      warning, endurance, ownArmour, power, damage, armour;
+      warning, endurance, ownArmour, power, damage, life, armour;
 };
 
 const FightPlaces& fightPlaces(const ControlTable& table) {
   const auto at = [&table](const char* name) { return placeOf(table, name); };
-  static const FightPlaces found = {at("Bron"),      at("Atak"),     at("Czar"),     at("mana"),    at("Rzuc"),
-                                    at("Przedmiot"), at("Uzyj"),     at("NastTura"), at("IleZad"),  at("OpisZad"),
-                                    at("FDamage"),   at("OpisDMG"),  at("CloseDMG"), at("Uwaga"),   at("Pstat(0)"),
-                                    at("Pstat(1)"),  at("Pstat(2)"), at("Pstat(3)"), at("Mstat(1)")};
+  static const FightPlaces found = {at("Bron"),      at("Atak"),     at("Czar"),     at("mana"),     at("Rzuc"),
+                                    at("Przedmiot"), at("Uzyj"),     at("NastTura"), at("IleZad"),   at("OpisZad"),
+                                    at("FDamage"),   at("OpisDMG"),  at("CloseDMG"), at("Uwaga"),    at("Pstat(0)"),
+                                    at("Pstat(1)"),  at("Pstat(2)"), at("Pstat(3)"), at("Mstat(0)"), at("Mstat(1)")};
   return found;
 }
 
@@ -246,6 +246,8 @@ int FightScreen::endurance() const { return number(fightPlaces(table()).enduranc
 int FightScreen::armour() const { return number(fightPlaces(table()).ownArmour); }
 
 int FightScreen::magic() const { return number(fightPlaces(table()).power); }
+
+int FightScreen::targetLife() const { return number(fightPlaces(table()).life); }
 
 int FightScreen::targetArmour() const { return number(fightPlaces(table()).armour); }
 

@@ -113,6 +113,7 @@ class FightScreen : public Screen {
   [[nodiscard]] int endurance() const;
   [[nodiscard]] int armour() const;
   [[nodiscard]] int magic() const;
+  [[nodiscard]] int targetLife() const;
   [[nodiscard]] int targetArmour() const;
   [[nodiscard]] bool fallen() const;
   [[nodiscard]] bool cleared() const;
