@@ -11,6 +11,8 @@ namespace {
 
 constexpr int kHead = 64;
 constexpr int kFigures = 4;
+// How far the plate of a group box stands out above its frame.
+constexpr int kPlate = 12;
 
 QFrame* panel(FormWindow& window) {
   auto* frame = new QFrame(&window);
@@ -61,8 +63,9 @@ void layOutReport(FormWindow& window, const char* frame, const std::array<const 
 }
 
 // A report and the faint picture in its place while there is none.
-QGridLayout* over(FormWindow& window, const char* report, const QString& picture, QSize size) {
+QGridLayout* over(FormWindow& window, const char* report, const QString& picture, QSize size, int above = 0) {
   auto* place = bare<QGridLayout>(0);
+  place->setContentsMargins(0, above, 0, 0);
   QWidget* const faint = decoration(window, picture, size);
   faint->setEnabled(false);
   place->addWidget(faint, 0, 0, Qt::AlignCenter);
@@ -104,7 +107,7 @@ QVBoxLayout* foe(FormWindow& window) {
   auto* column = bare<QVBoxLayout>(8);
   column->addLayout(distance(window));
   column->addWidget(figures(window, 5, "Mstat", true));
-  column->addLayout(over(window, "FZad", "kosci.png", {107, 187}), 1);
+  column->addLayout(over(window, "FZad", "kosci.png", {107, 175}, kPlate), 1);
   return column;
 }
 
