@@ -86,6 +86,7 @@ void FormWindow::mirrorAll() {
 void FormWindow::leaveScreen() {
   hide();
   destroy();
+  shownBackground_ = {};
 }
 
 void FormWindow::preparePictures() {
@@ -118,9 +119,11 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::paintEvent(QPaintEvent*) {
   if (background_.isEmpty()) return;
-  QPixmap picture = pictures_.pixmap(background_, pixels(), Qt::IgnoreAspectRatio);
-  picture.setDevicePixelRatio(devicePixelRatioF());
-  QPainter(this).drawPixmap(0, 0, picture);
+  if (shownBackground_.size() != pixels()) {
+    shownBackground_ = pictures_.pixmap(background_, pixels(), Qt::IgnoreAspectRatio);
+    shownBackground_.setDevicePixelRatio(devicePixelRatioF());
+  }
+  QPainter(this).drawPixmap(0, 0, shownBackground_);
 }
 
 }  // namespace brolgan::desktop

@@ -70,6 +70,7 @@ class FormWindow : public QWidget {
   std::map<std::string, QWidget*> frames_;
   std::vector<QWidget*> inOrder_;
   QString background_;
+  QPixmap shownBackground_;  // at the window's size, kept while the window shows
 };
 
 }  // namespace brolgan::desktop

@@ -1,5 +1,5 @@
-// The fight: the monster in the middle, the hero at its left and its own figures at its right, row beside
-// row; under each the blows that he took, where their place is kept; the actions below.
+// The fight: the monster in the middle; at its left the figures of the hero over its own, row under
+// row; at its right the blows dealt and taken, where their place is kept; the actions below.
 #include <array>
 
 #include "desktop/layouts/grid.h"
@@ -11,8 +11,6 @@ namespace {
 
 constexpr int kHead = 64;
 constexpr int kFigures = 4;
-// How far the plate of a group box stands out above its frame.
-constexpr int kPlate = 12;
 
 QFrame* panel(FormWindow& window) {
   auto* frame = new QFrame(&window);
@@ -20,26 +18,23 @@ QFrame* panel(FormWindow& window) {
   return frame;
 }
 
-// Heading, and name beside value in four rows. The values stand at the monster's side of the panel, so
-// that those of hero and monster face each other across it.
-QFrame* figures(FormWindow& window, int firstLegend, const char* values, bool valuesFirst) {
+// Heading, and name beside value in four rows.
+QFrame* figures(FormWindow& window, int firstLegend, const char* values) {
   QFrame* const frame = panel(window);
   QGridLayout& grid = *gridIn(*frame, 12, 6);
   QWidget& heading = window.at("Label2", firstLegend);
   theme::makeHeading(heading);
   grid.addWidget(&heading, 0, 0, 1, 2);
   for (int i = 0; i < kFigures; ++i) {
-    QWidget& legend = window.at("Label2", firstLegend + 1 + i);
     QWidget& value = window.at(values, i);
     const bool isDice = i == kFigures - 1;
     isDice ? theme::makeFigure(value) : theme::makeBigFigure(value);
-    alignRight(valuesFirst ? legend : value);
-    grid.addWidget(&legend, 1 + i, valuesFirst ? 1 : 0);
-    grid.addWidget(&value, 1 + i, valuesFirst ? 0 : 1);
+    alignRight(value);
+    grid.addWidget(&window.at("Label2", firstLegend + 1 + i), 1 + i, 0);
+    grid.addWidget(&value, 1 + i, 1);
     grid.setRowMinimumHeight(1 + i, 32);
   }
-  if (valuesFirst) alignRight(heading);
-  grid.setColumnStretch(valuesFirst ? 1 : 0, 1);
+  grid.setColumnStretch(0, 1);
   return frame;
 }
 
@@ -63,9 +58,8 @@ void layOutReport(FormWindow& window, const char* frame, const std::array<const 
 }
 
 // A report and the faint picture in its place while there is none.
-QGridLayout* over(FormWindow& window, const char* report, const QString& picture, QSize size, int above = 0) {
+QGridLayout* over(FormWindow& window, const char* report, const QString& picture, QSize size) {
   auto* place = bare<QGridLayout>(0);
-  place->setContentsMargins(0, above, 0, 0);
   QWidget* const faint = decoration(window, picture, size);
   faint->setEnabled(false);
   place->addWidget(faint, 0, 0, Qt::AlignCenter);
@@ -74,40 +68,35 @@ QGridLayout* over(FormWindow& window, const char* report, const QString& picture
   return place;
 }
 
-// The hero: his sheet and what he is warned of, his figures, the blows that he took.
-QVBoxLayout* hero(FormWindow& window) {
-  layOutReport(window, "FDamage", {"Picture1", "Label3", "IleDMG", "OpisDMG", "CloseDMG"});
-  auto* head = bare<QHBoxLayout>(12);
+// The way to the sheet, how far the monster is, and the figures of both, one over the other.
+QVBoxLayout* figuresOfBoth(FormWindow& window) {
+  auto* head = bare<QHBoxLayout>(8);
   window.at("Heroshow").setFixedSize(kHead, kHead);
+  theme::makeHeading(window.at("Odl"));
   head->addWidget(&window.at("Heroshow"));
-  wrap(window.at("Uwaga"));
-  theme::makeHeading(window.at("Uwaga"));
-  keepRoom(window.at("Uwaga"));
-  head->addWidget(&window.at("Uwaga"), 1);
+  head->addStretch();
+  head->addWidget(&window.at("Label1"));
+  head->addWidget(&window.at("Odl"));
   auto* column = bare<QVBoxLayout>(8);
   column->addLayout(head);
-  column->addWidget(figures(window, 0, "Pstat", false));
-  column->addLayout(over(window, "FDamage", "herb.png", {150, 150}), 1);
+  column->addWidget(figures(window, 0, "Pstat"), 1);
+  column->addWidget(figures(window, 5, "Mstat"), 1);
   return column;
 }
 
-QHBoxLayout* distance(FormWindow& window) {
-  auto* row = bare<QHBoxLayout>(8);
-  theme::makeHeading(window.at("Odl"));
-  window.at("Odl").setMinimumHeight(kHead);
-  row->addStretch();
-  row->addWidget(&window.at("Label1"));
-  row->addWidget(&window.at("Odl"));
-  return row;
-}
-
-// The monster's side: how far it is, its figures, the blows that it took.
-QVBoxLayout* foe(FormWindow& window) {
+// The warning, the blows dealt, the blows taken.
+QVBoxLayout* reports(FormWindow& window) {
   layOutReport(window, "FZad", {"Picture2", "Label4", "IleZad", "OpisZad", "CloseZad"});
+  layOutReport(window, "FDamage", {"Picture1", "Label3", "IleDMG", "OpisDMG", "CloseDMG"});
+  QWidget& warning = window.at("Uwaga");
+  wrap(warning);
+  theme::makeHeading(warning);
+  warning.setMinimumHeight(kHead);
+  keepRoom(warning);
   auto* column = bare<QVBoxLayout>(8);
-  column->addLayout(distance(window));
-  column->addWidget(figures(window, 5, "Mstat", true));
-  column->addLayout(over(window, "FZad", "kosci.png", {107, 175}, kPlate), 1);
+  column->addWidget(&warning);
+  column->addLayout(over(window, "FZad", "kosci.png", {107, 187}), 1);
+  column->addLayout(over(window, "FDamage", "herb.png", {150, 150}), 1);
   return column;
 }
 
@@ -153,9 +142,9 @@ QFrame* actions(FormWindow& window) {
 void layOutFight(FormWindow& window) {
   window.setBackground("walka.jpg");
   auto* scene = bare<QHBoxLayout>(14);
-  scene->addLayout(hero(window), 1);
+  scene->addLayout(figuresOfBoth(window), 1);
   scene->addWidget(monster(window), 0, Qt::AlignCenter);
-  scene->addLayout(foe(window), 1);
+  scene->addLayout(reports(window), 1);
   auto* all = new QVBoxLayout(&window);
   all->setContentsMargins(66, 56, 66, 54);
   all->setSpacing(8);
