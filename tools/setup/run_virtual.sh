@@ -19,6 +19,13 @@ done
 DISPLAY=:$(cat "$number")
 export DISPLAY
 openbox >/dev/null 2>&1 &
+# A window that comes before its manager may never be shown.
+waited=0
+until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; do
+  waited=$((waited + 1))
+  [ $waited -le 100 ] || { echo "The window manager does not start." >&2; exit 1; }
+  sleep 0.1
+done
 
 ./brolgan &
 game=$!
