@@ -173,7 +173,7 @@ const char* const kRules =
     "- Nóż i Łuk ma od początku każdy, więc nie trzeba ich kupować; można je za to sprzedać przy tworzeniu bohatera.\n"
     "- Broń biała doskonali się w użyciu (do ponad 100% premii), dlatego stara, wyćwiczona broń długo wygrywa z nową.\n"
     "- Średnie obrażenia na ekranie przygotowań zaokrąglają średnią jednej kości. Potwory rzucają więc kośćmi o\n"
-    "  nieparzystej liczbie ścian (k3, k5, k7, k9): ich średnia jest całkowita, a pokazana liczba dokładna.\n";
+    "  nieparzystej liczbie ścian (od k3 do k25): ich średnia jest całkowita, a pokazana liczba dokładna.\n";
 
 std::string howTo(const DataFiles& data, const Study& study) {
   std::ostringstream out;
