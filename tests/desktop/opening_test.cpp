@@ -209,5 +209,18 @@ TEST(Opening, TheGameMayEndBeforeAWindowIsShown) {
   });
 }
 
+TEST(Opening, AWindowLetsGoOfAFormThatIsUnloaded) {
+  Stage stage;
+  setPreparation(stage.world, richHero());
+  stage.world.roll(1, 4, {1});
+  stage.start();
+  stage.click("Main", "GraczM(0)");
+  stage.click("CTmhero", "Save");
+  EXPECT_NE(stage.window("Main").form(), nullptr);
+  stage.click("Main", "Start");
+  ASSERT_TRUE(stage.isShown("CTsklep"));
+  EXPECT_EQ(stage.window("Main").form(), nullptr);
+}
+
 }  // namespace
 }  // namespace brolgan::test
