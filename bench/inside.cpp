@@ -13,10 +13,10 @@
 #include <string>
 
 #include "desktop/picture_store.h"
-#include "desktop/screens.h"
 #include "desktop/silence.h"
 #include "desktop/system_clock.h"
 #include "desktop/theme.h"
+#include "game/game.h"
 #include "process_figures.h"
 #include "session.h"
 
@@ -37,8 +37,8 @@ void playGame(bench::Probe& probe) {
   desktop::SystemClock clock;
   desktop::PictureStore pictures;
   desktop::Silence sounds;
-  Runtime runtime({files, random, clock, pictures, sounds});
-  desktop::offerScreens(runtime);
+  Runtime runtime({files, clock, pictures, sounds});
+  offerScreens(runtime, random);
   desktop::Face face(runtime, pictures);
 
   std::string time = "first";

@@ -1,6 +1,7 @@
 #include "departments/development_form.h"
 
-#include "flow/services/number_text.h"
+#include "departments/tips.h"
+#include "flow/text/number_text.h"
 
 namespace brolgan {
 
@@ -27,7 +28,7 @@ DevelopmentForm::DevelopmentForm(Runtime& runtime) : runtime_(runtime) {
 void DevelopmentForm::designLadders() {
   for (int i = 0; i < kStatistics; ++i) {
     Label5[i].Caption = kStatisticTable[i].name;
-    Label5[i].ToolTipText = kStatisticTable[i].tip;
+    Label5[i].ToolTipText = kStatisticTips[i];
     const auto labels = ladder(i);
     for (std::size_t step = 0; step < labels.size(); ++step) labels[step].Caption = kStatisticTable[i].ladder[step];
   }
@@ -44,18 +45,18 @@ void DevelopmentForm::designSpells() {
     Czarn[i].Click = [this, i] { Czarn_Click(i); };
     czarc[i].Caption = decimal(std::int64_t{kSpellTable[i].price});
     Label13[i].Caption = kSpellTable[i].description;
-    Label13[i].ForeColor = kSpellTable[i].group;
+    Label13[i].ForeColor = colourOf(kSpellTable[i].group);
   }
-  Label12 = {"Czar do rzucenia tylko na planszy", Colour::green};
-  Label10[0] = {"Czar do rzucenia zawsze", Colour::black};
-  Label10[1] = {"Czar do rzucenia tylko podczas walki", Colour::purple};
+  Label12 = {"Czar do rzucenia tylko na planszy", colourOf(SpellGroup::board)};
+  Label10[0] = {"Czar do rzucenia zawsze", colourOf(SpellGroup::always)};
+  Label10[1] = {"Czar do rzucenia tylko podczas walki", colourOf(SpellGroup::fight)};
 }
 
 void DevelopmentForm::designGear() {
   Label17.Caption = kSupplyTable[kGrenade].name;
-  Label17.ToolTipText = kSupplyTable[kGrenade].tip;
+  Label17.ToolTipText = kSupplyTips[kGrenade];
   ammo.Caption = kSupplyTable[kAmmo].name;
-  ammo.ToolTipText = kSupplyTable[kAmmo].tip;
+  ammo.ToolTipText = kSupplyTips[kAmmo];
   for (int i = 0; i < kGear; ++i) {
     Spec[i].Caption = kGearTable[i].name;
     Spec[i].Enabled = kGearTable[i].forSale;

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <span>
 
-#include "flow/services/runtime.h"
+#include "flow/stage/runtime.h"
 #include "rules/development.h"
 #include "rules/hero.h"
 #include "rules/weapons.h"

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "flow/services/form.h"
+#include "flow/stage/form.h"
 
 namespace brolgan::desktop {
 

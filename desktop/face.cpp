@@ -8,8 +8,9 @@
 
 #include "desktop/picture_store.h"
 #include "desktop/text.h"
-#include "flow/services/hands.h"
-#include "flow/services/runtime_error.h"
+#include "flow/stage/hands.h"
+#include "flow/text/runtime_error.h"
+#include "game/names/names.h"
 
 namespace brolgan::desktop {
 
@@ -31,7 +32,7 @@ Face::Face(Runtime& runtime, PictureStore& pictures) : runtime_(runtime), pictur
 Face::~Face() = default;
 
 void Face::start() {
-  act([this] { runtime_.Show("Starter"); });
+  act([this] { runtime_.Show(screens::kStart); });
 }
 
 FormWindow* Face::window(const std::string& name) const {

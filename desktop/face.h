@@ -11,7 +11,7 @@
 #include <string>
 
 #include "desktop/form_window.h"
-#include "flow/services/runtime.h"
+#include "flow/stage/runtime.h"
 
 namespace brolgan::desktop {
 

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "flow/services/form.h"
+#include "flow/stage/form.h"
 
 namespace brolgan::desktop {
 

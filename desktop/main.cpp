@@ -8,12 +8,12 @@
 #include "desktop/face.h"
 #include "desktop/layouts/layouts.h"
 #include "desktop/picture_store.h"
-#include "desktop/screens.h"
 #include "desktop/sound/machine_sounds.h"
 #include "desktop/system_clock.h"
 #include "desktop/theme.h"
-#include "flow/services/files.h"
-#include "flow/services/random.h"
+#include "flow/text/files.h"
+#include "game/game.h"
+#include "rules/random.h"
 
 namespace {
 
@@ -49,8 +49,8 @@ int main(int argc, char* argv[]) {
   SeededRandom random;
   desktop::SystemClock clock;
   desktop::MachineSounds sounds;
-  Runtime runtime({files, random, clock, pictures, sounds});
-  desktop::offerScreens(runtime);
+  Runtime runtime({files, clock, pictures, sounds});
+  offerScreens(runtime, random);
 
   desktop::Face face(runtime, pictures);
   QMetaObject::invokeMethod(

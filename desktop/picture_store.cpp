@@ -6,7 +6,7 @@
 #include <QImageReader>
 
 #include "desktop/text.h"
-#include "flow/services/runtime_error.h"
+#include "flow/text/runtime_error.h"
 
 namespace brolgan::desktop {
 

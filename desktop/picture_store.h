@@ -9,7 +9,7 @@
 #include <future>
 #include <map>
 
-#include "flow/services/outside.h"
+#include "flow/stage/outside.h"
 
 namespace brolgan::desktop {
 

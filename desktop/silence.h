@@ -1,7 +1,7 @@
 // The sound of a program built without sound.
 #pragma once
 
-#include "flow/services/outside.h"
+#include "flow/stage/outside.h"
 
 namespace brolgan::desktop {
 

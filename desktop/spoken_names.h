@@ -4,7 +4,7 @@
 #include <QString>
 #include <string>
 
-#include "flow/services/form.h"
+#include "flow/stage/form.h"
 
 namespace brolgan::desktop {
 

@@ -1,7 +1,7 @@
 // The time of day of this machine.
 #pragma once
 
-#include "flow/services/outside.h"
+#include "flow/stage/outside.h"
 
 namespace brolgan::desktop {
 

@@ -5,7 +5,7 @@
 #include <QColor>
 #include <QFont>
 
-#include "flow/services/controls.h"
+#include "flow/stage/controls.h"
 
 class QApplication;
 class QFrame;

@@ -1,7 +1,8 @@
 // The hero's blows and shots.
 #include "fight/choices.h"
 #include "fight/fight.h"
-#include "flow/services/number_text.h"
+#include "flow/text/number_text.h"
+#include "game/names/names.h"
 #include "rules/battle.h"
 
 namespace brolgan {
@@ -23,8 +24,8 @@ bool Fight::isStaff() const { return WybranaBron >= kFirstStaff && WybranaBron <
 
 void Fight::strike() {
   spendBlow();
-  const Integer strength = Rzuty(runtime_.random(), bohater.MO);
-  const Integer weaponRoll = Rzuty(runtime_.random(), BronKostka);
+  const Integer strength = Rzuty(random_, bohater.MO);
+  const Integer weaponRoll = Rzuty(random_, BronKostka);
   Obrazenia = meleeDamage(bohater, WybranaBron, strength, BronKostka, weaponRoll);
   if (isClass(bohater.Klasa, kWitcher)) Obrazenia += witcherBonus(bohater.Wartosci(kSpeed));
   grow(bohater.BronwwProc(WybranaBron), 120, 76);
@@ -51,7 +52,7 @@ void Fight::spendBlow() {
 // A weapon gets better with use: the better it is, the more seldom, but never less than by the
 // rolls from the threshold on.
 void Fight::grow(Integer& percent, Integer die, Integer threshold) {
-  const Integer roll = Rzut(runtime_.random(), 1, die);
+  const Integer roll = Rzut(random_, 1, die);
   if (roll > percent || roll >= threshold) percent += 2;
 }
 
@@ -73,7 +74,7 @@ void Fight::shoot() {
 void Fight::fireCannon() {
   if (Przeladowanie) {
     Przeladowanie = false;
-    play("specammo.wav");
+    play(sounds::kAmmo);
     return;
   }
   fire();
@@ -84,8 +85,8 @@ void Fight::fireCannon() {
 void Fight::fire() {
   play(katalog.KatalogSs(WybranaBron).dzwiek);
   grow(bohater.BronssProc(WybranaBron), 140, 86);
-  Obrazenia = Rzuty(runtime_.random(), BronKostka) + BronKostka.dodatek;
-  if (AmmoGotowe) Obrazenia += Rzut(runtime_.random(), 1, 6);
+  Obrazenia = Rzuty(random_, BronKostka) + BronKostka.dodatek;
+  if (AmmoGotowe) Obrazenia += Rzut(random_, 1, 6);
   if (bohater.MaSpec(kSucker)) suckArmour();
   AmmoGotowe = false;
   IleZad.Caption.clear();
@@ -96,7 +97,7 @@ void Fight::fire() {
 // Comes before the damage, so the shot itself profits; only the target's armour falls.
 void Fight::suckArmour() {
   if (targetArmour() > 0) {
-    targetArmour() -= Rzut(runtime_.random(), 1, 3);
+    targetArmour() -= Rzut(random_, 1, 3);
     if (targetArmour() < 0) targetArmour() = 0;
   }
   Mstat[1].Caption = decimal(targetArmour());
@@ -105,7 +106,7 @@ void Fight::suckArmour() {
 // MEANT(rare-price): the die has ten faces but its first comes up once in eighteen.
 void Fight::payForUltiGun() {
   if (Bron.Text() != kUltiGun) return;
-  if (Rzut(runtime_.random(), 1, 10) != 1) return;
+  if (Rzut(random_, 1, 10) != 1) return;
   Uwaga.Caption = "Straciłeś 1 od Maxa Wytrzymałości";
   Uwaga.Visible = true;
   bohater.Wartosci(kEndurance) -= 1;

@@ -4,12 +4,14 @@
 #include <algorithm>
 
 #include "fight/choices.h"
-#include "flow/services/number_text.h"
+#include "flow/text/number_text.h"
+#include "game/names/names.h"
 #include "rules/development.h"
 
 namespace brolgan {
 
-Fight::Fight(Runtime& runtime) : SFX(runtime.sounds(), "SFX"), runtime_(runtime) {
+Fight::Fight(Runtime& runtime, RandomSource& random)
+    : SFX(runtime.sounds(), "SFX"), runtime_(runtime), random_(random) {
   Caption = "WALKA !";
   Heroshow.Click = [this] { Heroshow_Click(); };
   Bron.Click = [this] { Bron_Click(); };
@@ -24,7 +26,7 @@ Fight::Fight(Runtime& runtime) : SFX(runtime.sounds(), "SFX"), runtime_(runtime)
 
 // MEANT(early-strike): the first strike comes before the selections are restored and any figure is shown.
 void Fight::Form_Load() {
-  runtime_.Randomize();
+  random_.seed(runtime_.Timer());
   Fight_Load();
   Player_Load();
   Bron_Load(runtime_.OpenForInput(kWeaponsFile), katalog, CountReading::integer, FlagReading::boolean);
@@ -143,7 +145,7 @@ void Fight::Bron_Click() {
 }
 
 // The sheet reads the file, so it shows the hero as he came from the preparation.
-void Fight::Heroshow_Click() { runtime_.Reopen("FHero"); }
+void Fight::Heroshow_Click() { runtime_.Reopen(screens::kSheet); }
 
 void Fight::CloseZad_Click() { FZad.Visible = false; }
 

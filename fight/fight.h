@@ -6,21 +6,23 @@
 #include <array>
 #include <string>
 
-#include "flow/services/runtime.h"
+#include "flow/stage/runtime.h"
+#include "game/names/names.h"
 #include "rules/handover.h"
 #include "rules/hero.h"
+#include "rules/random.h"
 #include "rules/weapons.h"
 
 namespace brolgan {
 
 class Fight : public Form {
  public:
-  static constexpr const char* kName = "Fight";
-  explicit Fight(Runtime& runtime);
+  static constexpr const char* kName = screens::kFight;
+  Fight(Runtime& runtime, RandomSource& random);
 
   void Form_Load() override;
 
-  CommandButton Heroshow{.Picture = "arkusz.png"};
+  CommandButton Heroshow{.Picture = pictures::kSheet};
   ComboBox Bron;
   CommandButton Atak{"Atakuj !"};
   ComboBox Czar;
@@ -30,17 +32,17 @@ class Fight : public Form {
   CommandButton Uzyj{"Użyj"};
   CommandButton NastTura{"Następna Tura"};
   Frame FZad{.Visible = false};
-  PictureBox Picture2{"cios.png"};
+  PictureBox Picture2{pictures::kBlow};
   Label Label4{"Zadałeś :"};
   Label IleZad;
   Label OpisZad;
-  CommandButton CloseZad{.Picture = "zamknij.png"};
+  CommandButton CloseZad{.Picture = pictures::kClose};
   Frame FDamage{.Caption = "DAMAGE!", .Visible = false};
-  PictureBox Picture1{"rana.png"};
+  PictureBox Picture1{pictures::kWound};
   Label Label3{"Otrzymałeś :"};
   Label IleDMG;
   Label OpisDMG;
-  CommandButton CloseDMG{.Picture = "zamknij-rana.png"};
+  CommandButton CloseDMG{.Picture = pictures::kPlaster};
   Label Uwaga{.Visible = false};
   PictureBox Potwór;
   Label LIle{"1"};
@@ -136,6 +138,7 @@ class Fight : public Form {
   void openShop();
 
   Runtime& runtime_;
+  RandomSource& random_;
   Bohater bohater;
   Catalogue<101> katalog;
 

@@ -1,7 +1,8 @@
 // The hero's grenades and ammunition in the fight.
 #include "fight/choices.h"
 #include "fight/fight.h"
-#include "flow/services/number_text.h"
+#include "flow/text/number_text.h"
+#include "game/names/names.h"
 
 namespace brolgan {
 
@@ -13,11 +14,11 @@ void Fight::Uzyj_Click() {
 
 // A grenade ends the hero's round, whatever he did before it.
 void Fight::useGrenade() {
-  play("specgran.wav");
+  play(sounds::kGrenade);
   bohater.Wyp(kGrenade) -= 1;
   if (bohater.Wyp(kGrenade) == 0) Przedmioty_Lista();
   disableActions();
-  const Integer roll = Rzuty(runtime_.random(), 1, 30, 1);
+  const Integer roll = Rzuty(random_, 1, 30, 1);
   if (roll < 2) {
     hurtThrower();
   } else {
@@ -27,7 +28,7 @@ void Fight::useGrenade() {
 
 // MEANT(own-grenade): the figure stands behind those of the last attack, and nobody of the group can fall.
 void Fight::hurtThrower() {
-  const Integer harm = Rzuty(runtime_.random(), 1, 30, 1) - bohater.Wartosci(kArmour) - BonusPancerza - Pancerz3A;
+  const Integer harm = Rzuty(random_, 1, 30, 1) - bohater.Wartosci(kArmour) - BonusPancerza - Pancerz3A;
   suffer(harm);
 }
 
@@ -48,7 +49,7 @@ void Fight::hurtGroup(Integer roll) {
 
 // MEANT(one-ammo): costs no action, and a second one before a shot is spent for nothing.
 void Fight::useAmmo() {
-  play("specammo.wav");
+  play(sounds::kAmmo);
   AmmoGotowe = true;
   bohater.Wyp(kAmmo) -= 1;
   if (bohater.Wyp(kAmmo) == 0) Przedmioty_Lista();

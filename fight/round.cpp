@@ -4,7 +4,8 @@
 
 #include "fight/choices.h"
 #include "fight/fight.h"
-#include "flow/services/number_text.h"
+#include "flow/text/number_text.h"
+#include "game/names/names.h"
 #include "rules/battle.h"
 
 namespace brolgan {
@@ -55,8 +56,8 @@ void Fight::AtakPotwora() {
   IleDMG.Caption.clear();
   const int last = Ostatni.value();
   for (int i = 0; i <= last; ++i) {
-    const Integer harm = Rzuty(runtime_.random(), PotworAtak) + PotworAtak.dodatek - bohater.Wartosci(kArmour) -
-                         BonusPancerza - Pancerz3A;
+    const Integer harm =
+        Rzuty(random_, PotworAtak) + PotworAtak.dodatek - bohater.Wartosci(kArmour) - BonusPancerza - Pancerz3A;
     suffer(harm);
   }
 }
@@ -90,7 +91,7 @@ void Fight::Zabici() {
   OpisZad.Caption = "Czysto!";
   if (PotworNazwa == kLastMonster) {
     OpisZad.Caption = "Wygrałeś - tura " + str(bohater.Tura);
-    play("wygr.wav");
+    play(sounds::kVictory);
   }
   disableActions();
   Statystyki();
@@ -143,7 +144,7 @@ void Fight::leaveGame(const PlayerOrder& order) {
   std::vector<std::string> others;
   for (int i = 1; i < order.count.value(); ++i) others.push_back(order.Gracz(i));
   writePlayerOrder(runtime_.OpenForOutput(kGameFile), order.count - 1, others);
-  writeShop(runtime_.OpenForOutput(kShopFile), order.Gracz(1), Rzut(runtime_.random(), 1, 4));
+  writeShop(runtime_.OpenForOutput(kShopFile), order.Gracz(1), Rzut(random_, 1, 4));
   openShop();
 }
 
@@ -173,9 +174,9 @@ void Fight::passTurn(const PlayerOrder& order) {
   for (int i = 1; i < order.count.value(); ++i) names.push_back(order.Gracz(i));
   names.push_back(order.Gracz(0));
   writePlayerOrder(runtime_.OpenForOutput(kGameFile), order.count, names);
-  writeShop(runtime_.OpenForOutput(kShopFile), names.front(), Rzut(runtime_.random(), 1, 4));
+  writeShop(runtime_.OpenForOutput(kShopFile), names.front(), Rzut(random_, 1, 4));
 }
 
-void Fight::openShop() { runtime_.Replace(kName, "CTsklep"); }
+void Fight::openShop() { runtime_.Replace(kName, screens::kShop); }
 
 }  // namespace brolgan

@@ -5,7 +5,8 @@
 
 #include "fight/choices.h"
 #include "fight/fight.h"
-#include "flow/services/number_text.h"
+#include "flow/text/number_text.h"
+#include "game/names/names.h"
 
 namespace brolgan {
 
@@ -44,54 +45,54 @@ void Fight::Rzuc_Click() {
 
 void Fight::castHealing() {
   if (bohater.AktMoc < 1) return;
-  heal(Rzut(runtime_.random(), 1, 6));
+  heal(Rzut(random_, 1, 6));
   payMagic(1);
-  play("czar.wav");
+  play(sounds::kHealing);
 }
 
 void Fight::castStrongHealing() {
   if (bohater.AktMoc < 2) return;
-  heal(Rzuty(runtime_.random(), 1, 6, 2) + (bohater.Przedmioty(kStrongHealingCounter) - 1) * 2);
+  heal(Rzuty(random_, 1, 6, 2) + (bohater.Przedmioty(kStrongHealingCounter) - 1) * 2);
   payMagic(2);
-  play("czar.wav");
+  play(sounds::kHealing);
 }
 
 void Fight::castDamage() {
   if (bohater.AktMoc < 2) return;
-  hit(Rzuty(runtime_.random(), 1, 6, 3));
+  hit(Rzuty(random_, 1, 6, 3));
   payMagic(2);
-  finishAttackSpell("czaramg.wav");
+  finishAttackSpell(sounds::kDamage);
 }
 
 void Fight::castBoom() {
   if (bohater.AktMoc < 4) return;
-  hit(Rzuty(runtime_.random(), 1, 30, 2));
+  hit(Rzuty(random_, 1, 30, 2));
   payMagic(4);
-  finishAttackSpell("czarboom.wav");
+  finishAttackSpell(sounds::kBoom);
 }
 
 void Fight::castClass3A() {
   if (bohater.AktMoc < 2) return;
-  Tury3A = Rzuty(runtime_.random(), 1, 6, 2);
-  Pancerz3A = Rzuty(runtime_.random(), 1, 10, 1);
+  Tury3A = Rzuty(random_, 1, 6, 2);
+  Pancerz3A = Rzuty(random_, 1, 10, 1);
   payMagic(2);
-  finishSpell("czar3a.wav");
+  finishSpell(sounds::kClass3A);
 }
 
 void Fight::castLuck() {
   if (bohater.AktMoc < 4) return;
   Fart += 1;
   payMagic(4);
-  finishSpell("czarkac.wav");
+  finishSpell(sounds::kLuck);
 }
 
 void Fight::castBullShots() {
   const double x = typedMagic();
   if (x < 2 || x > bohater.AktMoc.value()) return;
-  spreadBullShots(toInteger(Rzuty(runtime_.random(), 1, 6, 3).value() + (x - 2) * 2));
+  spreadBullShots(toInteger(Rzuty(random_, 1, 6, 3).value() + (x - 2) * 2));
   bohater.AktMoc = toInteger(bohater.AktMoc.value() - x);
   spendCast();
-  finishAttackSpell("czarbul.wav");
+  finishAttackSpell(sounds::kBullShots);
 }
 
 // The number that the player typed; anything else is a type mismatch that ends the program.

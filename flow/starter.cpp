@@ -1,10 +1,12 @@
 #include "flow/starter.h"
 
+#include "game/names/names.h"
+
 namespace brolgan {
 
 void Starter::Form_Load() {
-  runtime_.Show("Brolgan");
-  runtime_.Show("Main");
+  runtime_.Show(screens::kTitle);
+  runtime_.Show(screens::kSetUp);
   runtime_.Unload(kName);
 }
 

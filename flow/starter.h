@@ -1,13 +1,14 @@
 // The start form, which exists for one moment: it opens the title and the set-up and goes.
 #pragma once
 
-#include "flow/services/runtime.h"
+#include "flow/stage/runtime.h"
+#include "game/names/names.h"
 
 namespace brolgan {
 
 class Starter : public Form {
  public:
-  static constexpr const char* kName = "Starter";
+  static constexpr const char* kName = screens::kStart;
   explicit Starter(Runtime& runtime) : runtime_(runtime) {}
 
   void Form_Load() override;

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "flow/services/files.h"
+#include "flow/text/files.h"
 #include "fuzz/target.h"
 
 namespace brolgan::fuzz {

@@ -2,7 +2,7 @@
 // a file of n bytes is at its end after n items.
 #include <array>
 
-#include "flow/services/item_reader.h"
+#include "flow/text/item_reader.h"
 #include "fuzz/target.h"
 
 namespace brolgan::fuzz {

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "flow/services/runtime_error.h"
+#include "flow/text/runtime_error.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 

@@ -1,6 +1,6 @@
 #include "rules/battle.h"
 
-#include "flow/services/number_text.h"
+#include "flow/text/number_text.h"
 #include "rules/development.h"
 
 namespace brolgan {

@@ -6,8 +6,7 @@
 #include <span>
 #include <string_view>
 
-#include "flow/services/controls.h"
-#include "flow/services/integer.h"
+#include "flow/text/integer.h"
 #include "rules/dice.h"
 
 namespace brolgan {
@@ -17,7 +16,6 @@ enum Statistic { kEndurance, kArmour, kPower, kSpeed, kRegeneration, kModifier, 
 
 struct StatisticRow {
   const char* name;
-  const char* tip;
   std::span<const char* const> ladder;  // the captions, step n at n - 1
 
   [[nodiscard]] int top() const { return static_cast<int>(ladder.size()); }
@@ -48,7 +46,6 @@ enum ClassIndex {
 
 struct ClassRow {
   const char* caption;
-  const char* tip;
   int meleePercent;
   int rangedPercent;
   int plus;
@@ -73,11 +70,14 @@ enum SpellIndex {
   kSpells
 };
 
+// When a spell can be cast, as its description is marked.
+enum class SpellGroup { always, fight, board };
+
 struct SpellRow {
   const char* name;
   int price;
   const char* description;
-  Colour group;
+  SpellGroup group;
   bool forSale;
 };
 
@@ -90,8 +90,6 @@ struct GearRow {
   const char* name;
   int creationPrice;
   int shopPrice;
-  const char* creationTip;
-  const char* shopTip;
   bool forSale;
 };
 
@@ -102,7 +100,6 @@ enum SupplyIndex { kGrenade, kAmmo, kSupplies };
 
 struct SupplyRow {
   const char* name;
-  const char* tip;
   int perPurchase;
 };
 

@@ -1,6 +1,6 @@
 #include "rules/dice.h"
 
-#include "flow/services/number_text.h"
+#include "flow/text/number_text.h"
 
 namespace brolgan {
 

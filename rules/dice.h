@@ -5,8 +5,8 @@
 
 #include <string>
 
-#include "flow/services/integer.h"
-#include "flow/services/random.h"
+#include "flow/text/integer.h"
+#include "rules/random.h"
 
 namespace brolgan {
 

@@ -1,8 +1,8 @@
 // A dice expression as four items of a text file.
 #pragma once
 
-#include "flow/services/item_reader.h"
-#include "flow/services/item_writer.h"
+#include "flow/text/item_reader.h"
+#include "flow/text/item_writer.h"
 #include "rules/dice.h"
 
 namespace brolgan {

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "flow/services/array.h"
-#include "flow/services/item_reader.h"
-#include "flow/services/item_writer.h"
+#include "flow/text/array.h"
+#include "flow/text/item_reader.h"
+#include "flow/text/item_writer.h"
 #include "rules/monsters.h"
 
 namespace brolgan {

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <string>
 
-#include "flow/services/array.h"
-#include "flow/services/item_reader.h"
+#include "flow/text/array.h"
+#include "flow/text/item_reader.h"
 #include "rules/dice.h"
 
 namespace brolgan {

@@ -7,7 +7,7 @@
 #include <thread>
 
 #include "desktop/sound/backend.h"
-#include "flow/services/outside.h"
+#include "flow/stage/outside.h"
 
 namespace brolgan::desktop {
 

@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-#include "flow/services/form.h"
+#include "flow/stage/form.h"
 #include "tests/departments/lines.h"
 
 namespace brolgan::test {

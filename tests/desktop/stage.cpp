@@ -1,4 +1,5 @@
 #include "tests/desktop/stage.h"
+#include "game/game.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -15,7 +16,6 @@
 #include <stdexcept>
 #include <utility>
 
-#include "desktop/screens.h"
 #include "desktop/text.h"
 
 namespace brolgan::test {
@@ -56,17 +56,17 @@ QPoint aimAt(const QWidget& widget) {
 }  // namespace
 
 Stage::Stage()
-    : runtime({world.files, world.scripted, world.clock, world.pictures, world.sounds}), face(runtime, pictures) {
+    : runtime({world.files, world.clock, world.pictures, world.sounds}), face(runtime, pictures) {
   prepare();
 }
 
 Stage::Stage(RealPictures)
-    : runtime({world.files, world.scripted, world.clock, pictures, world.sounds}), face(runtime, pictures) {
+    : runtime({world.files, world.clock, pictures, world.sounds}), face(runtime, pictures) {
   prepare();
 }
 
 void Stage::prepare() {
-  desktop::offerScreens(runtime);
+  offerScreens(runtime, world.scripted);
   face.onError = [this](const QString& text) { errors.push_back(text.toStdString()); };
 }
 

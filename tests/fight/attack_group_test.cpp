@@ -1,5 +1,5 @@
 // What a shot does to the group behind the target: spreading, fire that carries on, and the figures.
-#include "tests/fight/fight_fixture.h"
+#include "tests/fight/fixture.h"
 
 namespace brolgan::test {
 namespace {

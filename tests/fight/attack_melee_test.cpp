@@ -1,5 +1,5 @@
 // The hero's blows: when one may be struck, what it costs, what it does and how the weapon grows.
-#include "tests/fight/fight_fixture.h"
+#include "tests/fight/fixture.h"
 
 namespace brolgan::test {
 namespace {

@@ -1,5 +1,5 @@
 // The hero's shots: what one costs and does, ammunition, "Zasysacz", "Działo" and "UltiGun".
-#include "tests/fight/fight_fixture.h"
+#include "tests/fight/fixture.h"
 
 namespace brolgan::test {
 namespace {

@@ -1,7 +1,7 @@
 // The arithmetic of the fight: damage of a blow, bonuses of the classes, reward.
 #include "rules/battle.h"
 
-#include "tests/fight/fight_fixture.h"
+#include "tests/fight/fixture.h"
 
 namespace brolgan::test {
 namespace {

@@ -1,5 +1,5 @@
 // The hero's grenades and ammunition in the fight.
-#include "tests/fight/fight_fixture.h"
+#include "tests/fight/fixture.h"
 
 namespace brolgan::test {
 namespace {

@@ -1,7 +1,8 @@
 // The ends of a fight: what is announced, what the hero gains or loses, what is written, who is next.
 #include "fight/fight.h"
-#include "shop/ctsklep.h"
-#include "tests/fight/fight_fixture.h"
+#include "game/game.h"
+#include "shop/shop.h"
+#include "tests/fight/fixture.h"
 
 namespace brolgan::test {
 namespace {
@@ -519,9 +520,8 @@ TEST_P(FiveEnds, WriteTheseFilesInThisOrder) {
   writeFiles();
   WatchedFiles files;
   files.contents = world.files.contents;
-  Runtime runtime({files, world.scripted, world.clock, world.pictures, world.sounds});
-  offer<Fight>(runtime);
-  offer<CTsklep>(runtime);
+  Runtime runtime({files, world.clock, world.pictures, world.sounds});
+  offerScreens(runtime, world.scripted);
   runtime.Show("Fight");
   if (end.goesOn) world.roll(1, 4, {1});
 

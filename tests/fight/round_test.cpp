@@ -1,5 +1,5 @@
 // The end of a round and the monsters' answer.
-#include "tests/fight/fight_fixture.h"
+#include "tests/fight/fixture.h"
 
 namespace brolgan::test {
 namespace {

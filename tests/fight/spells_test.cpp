@@ -1,7 +1,7 @@
 // The hero's spells in the fight: what each costs, demands and does.
 #include <cctype>
 
-#include "tests/fight/fight_fixture.h"
+#include "tests/fight/fixture.h"
 
 namespace brolgan::test {
 namespace {

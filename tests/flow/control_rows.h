@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "flow/services/form.h"
+#include "flow/stage/form.h"
 
 namespace brolgan::test {
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <array>
 
-#include "creation/ctmhero.h"
+#include "creation/creation.h"
 #include "fight/fight.h"
-#include "preparation/prefight.h"
-#include "sheet/fhero.h"
-#include "shop/ctsklep.h"
+#include "preparation/preparation.h"
+#include "sheet/sheet.h"
+#include "shop/shop.h"
 
 namespace brolgan::test {
 

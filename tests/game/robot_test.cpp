@@ -8,15 +8,14 @@
 #include <map>
 #include <set>
 #include <string>
-#include <type_traits>
 #include <vector>
 
-#include "creation/ctmhero.h"
+#include "creation/creation.h"
 #include "fight/fight.h"
-#include "flow/main_form.h"
-#include "preparation/prefight.h"
-#include "sheet/fhero.h"
-#include "shop/ctsklep.h"
+#include "flow/setup.h"
+#include "preparation/preparation.h"
+#include "sheet/sheet.h"
+#include "shop/shop.h"
 #include "tests/game/invariants.h"
 #include "tests/game/known_errors.h"
 
@@ -110,16 +109,13 @@ void addLiveControls(const std::string& name, Form& form, std::set<std::string>&
 std::set<std::string> liveControls() {
   World world;
   std::set<std::string> live;
-  const auto add = [&]<class Screen>(std::type_identity<Screen>) {
-    Screen form(world.runtime);
-    addLiveControls(Screen::kName, form, live);
-  };
-  add(std::type_identity<Main>());
-  add(std::type_identity<CTmhero>());
-  add(std::type_identity<CTsklep>());
-  add(std::type_identity<Prefight>());
-  add(std::type_identity<Fight>());
-  add(std::type_identity<FHero>());
+  const auto add = [&live](auto&& form) { addLiveControls(form.kName, form, live); };
+  add(Main(world.runtime, world.scripted));
+  add(CTmhero(world.runtime));
+  add(CTsklep(world.runtime));
+  add(Prefight(world.runtime, world.scripted));
+  add(Fight(world.runtime, world.scripted));
+  add(FHero(world.runtime));
   return live;
 }
 

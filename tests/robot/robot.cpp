@@ -4,7 +4,7 @@
 #include <array>
 #include <utility>
 
-#include "flow/services/number_text.h"
+#include "flow/text/number_text.h"
 
 namespace brolgan::robot {
 

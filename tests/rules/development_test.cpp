@@ -30,7 +30,8 @@ struct SpellCase {
   const char* name;
   int price;
   const char* description;
-  Colour group;
+  SpellGroup group;
+  Colour colour;
   bool forSale;
 };
 
@@ -89,17 +90,17 @@ const std::vector<ClassCase> kClassCases = {
     {"Złota rączka", "Złota rączka uzyskuje bonus +5 do obrażeń zadawanych każdym typem broni", 0, 0, 5},
 };
 const std::vector<SpellCase> kSpellCases = {
-    {"Leczenie", 1, "za 1 PM odzyskujesz k6 wytrzymałości", Colour::black, true},
-    {"Damage !", 1, "za 2 PM zadaje 3k6 jednemu wrogowi", Colour::purple, true},
-    {"BullShots", 3, "za 2+** PM zadaje 3k6 + ** wszystkim", Colour::purple, true},
-    {"BOOM !", 4, "za 4 PM zadaje 2k30 jednemu wrogowi", Colour::purple, true},
-    {"AntyLeczenie", 2, "za 3 PM powstrzymuje  leczenie na k3 tury", Colour::green, false},
-    {"Przyzwanie potwora", 3, "za 1-12 PM przyzywa potwora na wybrane przec Ciebie, nie zajęte miejsce", Colour::green,
-     false},
-    {"Klasa III A", 1, "za 2 PM  zwiększa pancerz o k8 na 2k6 r ", Colour::purple, true},
-    {"Kaczy Fart", 3, "za 4 PM najbliższy atak nic Ci nie robi", Colour::purple, true},
-    {"Teleportacja", 3, "za 3 PM przenosisz się do 3 pól dalej", Colour::green, false},
-    {"Autostart", 2, "za 3 PM zwiększa inicjatywę o +k6", Colour::black, true},
+    {"Leczenie", 1, "za 1 PM odzyskujesz k6 wytrzymałości", SpellGroup::always, Colour::black, true},
+    {"Damage !", 1, "za 2 PM zadaje 3k6 jednemu wrogowi", SpellGroup::fight, Colour::purple, true},
+    {"BullShots", 3, "za 2+** PM zadaje 3k6 + ** wszystkim", SpellGroup::fight, Colour::purple, true},
+    {"BOOM !", 4, "za 4 PM zadaje 2k30 jednemu wrogowi", SpellGroup::fight, Colour::purple, true},
+    {"AntyLeczenie", 2, "za 3 PM powstrzymuje  leczenie na k3 tury", SpellGroup::board, Colour::green, false},
+    {"Przyzwanie potwora", 3, "za 1-12 PM przyzywa potwora na wybrane przec Ciebie, nie zajęte miejsce",
+     SpellGroup::board, Colour::green, false},
+    {"Klasa III A", 1, "za 2 PM  zwiększa pancerz o k8 na 2k6 r ", SpellGroup::fight, Colour::purple, true},
+    {"Kaczy Fart", 3, "za 4 PM najbliższy atak nic Ci nie robi", SpellGroup::fight, Colour::purple, true},
+    {"Teleportacja", 3, "za 3 PM przenosisz się do 3 pól dalej", SpellGroup::board, Colour::green, false},
+    {"Autostart", 2, "za 3 PM zwiększa inicjatywę o +k6", SpellGroup::always, Colour::black, true},
 };
 const std::vector<GearCase> kGearCases = {
     {"Moździerz", 1, 7, "Cena 1. Zwiększa obrażenia zadawane przez granat o 8",
@@ -149,12 +150,11 @@ class DevelopmentScreens : public testing::Test {
 
 // Statistics.
 
-TEST(StatisticTable, HasSevenStatisticsWithTheirNamesTipsAndLadders) {
+TEST(StatisticTable, HasSevenStatisticsWithTheirNamesAndLadders) {
   ASSERT_EQ(kStatisticTable.size(), kStatisticCases.size());
   for (std::size_t i = 0; i < kStatisticCases.size(); ++i) {
-    const auto& [name, tip, ladder] = kStatisticCases[i];
+    const auto& [name, tipText, ladder] = kStatisticCases[i];
     EXPECT_STREQ(kStatisticTable[i].name, name);
-    EXPECT_STREQ(kStatisticTable[i].tip, tip);
     EXPECT_EQ(std::vector<std::string>(kStatisticTable[i].ladder.begin(), kStatisticTable[i].ladder.end()), ladder);
   }
 }
@@ -212,11 +212,10 @@ TEST(ModifierDice, OfAStepThatTheLadderDoesNotHaveAreAMissingControl) {
 
 // Classes.
 
-TEST(ClassTable, HasTenClassesWithTheirTipsAndGrants) {
+TEST(ClassTable, HasTenClassesWithTheirGrants) {
   ASSERT_EQ(kClassTable.size(), kClassCases.size());
   for (std::size_t i = 0; i < kClassCases.size(); ++i) {
     EXPECT_STREQ(kClassTable[i].caption, kClassCases[i].caption);
-    EXPECT_STREQ(kClassTable[i].tip, kClassCases[i].tip);
     EXPECT_EQ(kClassTable[i].meleePercent, kClassCases[i].meleePercent) << i;
     EXPECT_EQ(kClassTable[i].rangedPercent, kClassCases[i].rangedPercent) << i;
     EXPECT_EQ(kClassTable[i].plus, kClassCases[i].plus) << i;
@@ -261,7 +260,7 @@ TEST_F(DevelopmentScreens, ShowTheSameSpells) {
       EXPECT_EQ(caption(screen, "Czarn", i), kSpellCases[i].name);
       EXPECT_EQ(caption(screen, "czarc", i), std::to_string(kSpellCases[i].price));
       EXPECT_EQ(caption(screen, "Label13", i), kSpellCases[i].description);
-      EXPECT_EQ(world.colour(screen, member("Label13", i)), kSpellCases[i].group);
+      EXPECT_EQ(world.colour(screen, member("Label13", i)), kSpellCases[i].colour);
       EXPECT_EQ(world.isEnabled(screen, member("Czarn", i)), kSpellCases[i].forSale);
     }
   }
@@ -280,14 +279,12 @@ TEST_F(DevelopmentScreens, ShowTheLegendOfTheGroups) {
 
 // Gear and supplies.
 
-TEST(GearTable, HasFourItemsWithTheirPricesAndTips) {
+TEST(GearTable, HasFourItemsWithTheirPrices) {
   ASSERT_EQ(kGearTable.size(), kGearCases.size());
   for (std::size_t i = 0; i < kGearCases.size(); ++i) {
     EXPECT_STREQ(kGearTable[i].name, kGearCases[i].name);
     EXPECT_EQ(kGearTable[i].creationPrice, kGearCases[i].creationPrice) << i;
     EXPECT_EQ(kGearTable[i].shopPrice, kGearCases[i].shopPrice) << i;
-    EXPECT_STREQ(kGearTable[i].creationTip, kGearCases[i].creationTip);
-    EXPECT_STREQ(kGearTable[i].shopTip, kGearCases[i].shopTip);
     EXPECT_EQ(kGearTable[i].forSale, kGearCases[i].forSale) << i;
   }
 }
@@ -309,7 +306,6 @@ TEST(SupplyTable, HasGrenadesAndAmmunition) {
   ASSERT_EQ(kSupplyTable.size(), kSupplyCases.size());
   for (std::size_t i = 0; i < kSupplyCases.size(); ++i) {
     EXPECT_STREQ(kSupplyTable[i].name, kSupplyCases[i].name);
-    EXPECT_STREQ(kSupplyTable[i].tip, kSupplyCases[i].tip);
     EXPECT_EQ(kSupplyTable[i].perPurchase, kSupplyCases[i].perPurchase) << i;
   }
 }

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "flow/services/code_page.h"
-#include "flow/services/item_reader.h"
+#include "flow/text/code_page.h"
+#include "flow/text/item_reader.h"
 
 namespace brolgan::test {
 

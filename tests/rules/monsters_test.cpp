@@ -6,9 +6,9 @@
 #include <set>
 #include <string>
 
-#include "flow/services/number_text.h"
+#include "flow/text/number_text.h"
 #include "rules/handover.h"
-#include "sheet/fhero.h"
+#include "sheet/sheet.h"
 #include "tests/rules/lines.h"
 #include "tests/support/world.h"
 

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "flow/services/number_text.h"
+#include "flow/text/number_text.h"
 #include "tests/rules/lines.h"
 #include "tests/support/world.h"
 

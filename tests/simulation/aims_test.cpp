@@ -1,6 +1,6 @@
 // The numbers of the data files keep first fights safe and games of a good length, on a small
 // sample with fixed seeds; the report holds the same aims against a large one.
-#include "tools/simulation/aims.h"
+#include "simulation/aims.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <cmath>
 #include <string>
 
-#include "tools/simulation/options.h"
+#include "simulation/options.h"
 
 namespace brolgan::simulation {
 namespace {

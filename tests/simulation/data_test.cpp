@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "rules/weapons.h"
-#include "tools/simulation/knowledge.h"
-#include "tools/simulation/study.h"
+#include "simulation/knowledge.h"
+#include "simulation/study.h"
 
 namespace brolgan::simulation {
 namespace {

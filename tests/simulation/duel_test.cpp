@@ -1,11 +1,11 @@
 // One fight, fought often.
-#include "tools/simulation/duel.h"
+#include "simulation/duel.h"
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
 
-#include "flow/services/item_writer.h"
+#include "flow/text/item_writer.h"
 #include "rules/hero.h"
 
 namespace brolgan::simulation {

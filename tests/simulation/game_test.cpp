@@ -1,9 +1,9 @@
 // Whole games by the minds: equal seeds, equal games.
-#include "tools/simulation/game.h"
+#include "simulation/game.h"
 
 #include <gtest/gtest.h>
 
-#include "tools/simulation/batch.h"
+#include "simulation/batch.h"
 
 namespace brolgan::simulation {
 namespace {

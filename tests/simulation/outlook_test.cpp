@@ -1,9 +1,9 @@
 // Reckoning a fight with averages comes close to what the dice do.
-#include "tools/simulation/outlook.h"
+#include "simulation/outlook.h"
 
 #include <gtest/gtest.h>
 
-#include "tools/simulation/rehearsal.h"
+#include "simulation/rehearsal.h"
 
 namespace brolgan::simulation {
 namespace {

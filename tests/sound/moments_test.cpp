@@ -9,10 +9,11 @@
 
 #include "desktop/sound/queued_sounds.h"
 #include "fight/fight.h"
-#include "preparation/prefight.h"
-#include "sheet/fhero.h"
-#include "shop/ctsklep.h"
-#include "tests/fight/fight_fixture.h"
+#include "game/game.h"
+#include "preparation/preparation.h"
+#include "sheet/sheet.h"
+#include "shop/shop.h"
+#include "tests/fight/fixture.h"
 #include "tests/preparation/preparation.h"
 #include "tests/sound/stand_in.h"
 
@@ -47,11 +48,8 @@ class Moment : public FightTest {
  protected:
   enum class Dice { scripted, chance };
 
-  explicit Moment(Dice dice = Dice::scripted) : stage({world.files, source(dice), world.clock, world.pictures, asked}) {
-    offer<Prefight>(stage);
-    offer<Fight>(stage);
-    offer<CTsklep>(stage);
-    offer<FHero>(stage);
+  explicit Moment(Dice dice = Dice::scripted) : stage({world.files, world.clock, world.pictures, asked}) {
+    offerScreens(stage, source(dice));
     hero.Wartosci(0) = 30;
     hero.Wartosci(2) = 20;
     hero.AktMoc = 10;

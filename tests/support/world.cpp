@@ -4,15 +4,8 @@
 #include <iterator>
 #include <stdexcept>
 
-#include "creation/ctmhero.h"
-#include "fight/fight.h"
-#include "flow/brolgan.h"
-#include "flow/main_form.h"
-#include "flow/services/code_page.h"
-#include "flow/starter.h"
-#include "preparation/prefight.h"
-#include "sheet/fhero.h"
-#include "shop/ctsklep.h"
+#include "flow/text/code_page.h"
+#include "game/game.h"
 
 namespace brolgan::test {
 
@@ -45,22 +38,15 @@ float rollOf(int kmin, int kmax, int face) {
   return static_cast<float>(face - kmin) / span;
 }
 
-World::World() : runtime({files, scripted, clock, pictures, sounds}) { prepare(); }
+World::World() : runtime({files, clock, pictures, sounds}) { prepare(scripted); }
 
-World::World(double timer) : runtime({files, seeded, clock, pictures, sounds}) {
+World::World(double timer) : runtime({files, clock, pictures, sounds}) {
   clock.now = timer;
-  prepare();
+  prepare(seeded);
 }
 
-void World::prepare() {
-  offer<Starter>(runtime);
-  offer<Brolgan>(runtime);
-  offer<Main>(runtime);
-  offer<CTmhero>(runtime);
-  offer<CTsklep>(runtime);
-  offer<Prefight>(runtime);
-  offer<Fight>(runtime);
-  offer<FHero>(runtime);
+void World::prepare(RandomSource& random) {
+  offerScreens(runtime, random);
   files.contents["bron.cfg"] = assetBytes("bron.cfg");
   files.contents["monsters.cfg"] = assetBytes("monsters.cfg");
 }

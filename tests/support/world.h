@@ -7,10 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "flow/services/hands.h"
-#include "flow/services/runtime.h"
+#include "flow/stage/hands.h"
+#include "flow/stage/runtime.h"
 #include "rules/handover.h"
 #include "rules/hero.h"
+#include "rules/random.h"
 
 namespace brolgan::test {
 
@@ -100,7 +101,7 @@ class World {
   Runtime runtime;
 
  private:
-  void prepare();
+  void prepare(RandomSource& random);
 };
 
 // A hero as creation makes him with nothing bought: step 1 everywhere, the first weapon of each

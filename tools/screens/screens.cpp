@@ -1,7 +1,7 @@
 // Plays a short game by clicking real widgets in real windows and takes a picture of the whole
 // display at every screen. Run by take.sh in a folder laid out for play.
 // Usage: brolgan_screens FOLDER-FOR-PICTURES HERO-FILE
-#include "desktop/screens.h"
+#include "game/game.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -40,7 +40,7 @@ double timeOfRoll(int kmin, int kmax, int face) {
 class Session {
  public:
   Session(QString folder, QString grownHero) : folder_(std::move(folder)), grownHero_(std::move(grownHero)) {
-    desktop::offerScreens(runtime_);
+    offerScreens(runtime_, random_);
   }
 
   void play(int shopMode) {
@@ -135,7 +135,7 @@ class Session {
   SetClock clock_;
   desktop::PictureStore pictures_;
   desktop::Silence sounds_;
-  Runtime runtime_{{files_, random_, clock_, pictures_, sounds_}};
+  Runtime runtime_{{files_, clock_, pictures_, sounds_}};
   desktop::Face face_{runtime_, pictures_};
 };
 

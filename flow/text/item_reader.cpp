@@ -1,0 +1,114 @@
+#include "flow/text/item_reader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "flow/text/code_page.h"
+#include "flow/text/number_text.h"
+
+namespace brolgan {
+
+namespace {
+
+bool equalsIgnoringCase(std::string_view text, std::string_view lower) {
+  const auto same = [](char a, char b) { return (a >= 'A' && a <= 'Z' ? a - 'A' + 'a' : a) == b; };
+  return std::equal(text.begin(), text.end(), lower.begin(), lower.end(), same);
+}
+
+}  // namespace
+
+std::string Field::text() const {
+  return index < 0 ? std::string(name) : std::string(name) + "(" + std::to_string(index) + ")";
+}
+
+ItemReader::ItemReader(std::string name, std::string bytes) : name_(std::move(name)), bytes_(std::move(bytes)) {}
+
+std::string ItemReader::string(const Field& field) {
+  begin(field);
+  skipBlanks();
+  if (!atEnd() && bytes_[at_] == '"') return fromCodePage(quoted());
+  const std::size_t start = at_;
+  at_ = std::min(bytes_.find_first_of(",\r\n", at_), bytes_.size());
+  std::string text = fromCodePage(std::string_view(bytes_).substr(start, at_ - start));
+  skipDelimiter();
+  return text;
+}
+
+bool ItemReader::flag(const Field& field) { return string(field) == "True"; }
+
+Integer ItemReader::integer(const Field& field) {
+  const auto number = parseNumber(word(field));
+  return toIntegerOrFail(number.value_or(0), field);
+}
+
+bool ItemReader::boolean(const Field& field) {
+  std::string_view text = word(field);
+  if (const auto number = parseNumber(text)) return *number != 0;
+  if (text.size() > 1 && text.front() == '#' && text.back() == '#') text = text.substr(1, text.size() - 2);
+  if (equalsIgnoringCase(text, "true")) return true;
+  if (equalsIgnoringCase(text, "false")) return false;
+  fail(ErrorCode::typeMismatch, field);
+}
+
+Integer ItemReader::variant(const Field& field) {
+  const std::string_view text = word(field);
+  const auto number = parseNumber(text);
+  if (!number && !text.empty()) fail(ErrorCode::typeMismatch, field);
+  return toIntegerOrFail(number.value_or(0), field);
+}
+
+void ItemReader::fail(ErrorCode code, const Field& field) const {
+  throw RuntimeError(code, {name_, itemLine_, field.text()});
+}
+
+void ItemReader::begin(const Field& field) {
+  itemLine_ = line_;
+  if (atEnd()) fail(ErrorCode::pastEnd, field);
+}
+
+void ItemReader::skipBlanks() { at_ = std::min(bytes_.find_first_not_of(' ', at_), bytes_.size()); }
+
+// What stands between two items: blanks with one comma among them, or the end of the line.
+void ItemReader::skipDelimiter() {
+  skipBlanks();
+  if (skipLineEnd() || atEnd() || bytes_[at_] != ',') return;
+  ++at_;
+}
+
+bool ItemReader::skipLineEnd() {
+  if (!atLineEnd()) return false;
+  const bool pair = bytes_.compare(at_, 2, "\r\n") == 0;
+  at_ += pair ? 2 : 1;
+  ++line_;
+  return true;
+}
+
+bool ItemReader::atLineEnd() const { return !atEnd() && (bytes_[at_] == '\r' || bytes_[at_] == '\n'); }
+
+std::string_view ItemReader::word(const Field& field) {
+  begin(field);
+  skipBlanks();
+  const std::size_t start = at_;
+  at_ = std::min(bytes_.find_first_of(" ,\r\n", at_), bytes_.size());
+  const auto text = std::string_view(bytes_).substr(start, at_ - start);
+  skipDelimiter();
+  return text;
+}
+
+// The text behind an opening quote, up to the closing one or the end of the line.
+std::string_view ItemReader::quoted() {
+  const std::size_t start = ++at_;
+  at_ = std::min(bytes_.find_first_of("\"\r\n", at_), bytes_.size());
+  const auto text = std::string_view(bytes_).substr(start, at_ - start);
+  if (!atEnd() && bytes_[at_] == '"') ++at_;
+  skipDelimiter();
+  return text;
+}
+
+Integer ItemReader::toIntegerOrFail(double number, const Field& field) const {
+  const double whole = round(number);
+  if (!(whole >= INT16_MIN && whole <= INT16_MAX)) fail(ErrorCode::overflow, field);
+  return static_cast<int>(whole);
+}
+
+}  // namespace brolgan

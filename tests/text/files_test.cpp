@@ -1,0 +1,176 @@
+// The store of the text files, on disk and in memory.
+#include "flow/text/files.h"
+
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "tests/support/world.h"
+
+namespace brolgan::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Works in a temporary folder of its own.
+class DiskFilesTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    std::string pattern = fs::temp_directory_path() / "brolgan-XXXXXX";
+    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+    folder = pattern;
+    before = fs::current_path();
+    fs::current_path(folder);
+  }
+
+  void TearDown() override {
+    fs::current_path(before);
+    fs::remove_all(folder);
+  }
+
+  static void put(const fs::path& path, const std::string& bytes) { std::ofstream(path, std::ios::binary) << bytes; }
+
+  DiskFiles files;
+  fs::path folder;
+  fs::path before;
+};
+
+std::string allBytes() {
+  std::string bytes;
+  for (int code = 0; code < 256; ++code) bytes += static_cast<char>(code);
+  return bytes + "\r\n\n\r\x1A";
+}
+
+TEST_F(DiskFilesTest, ReadsEveryByteAsItLies) {
+  put("plik.txt", allBytes());
+  EXPECT_EQ(files.read("plik.txt"), allBytes());
+}
+
+TEST_F(DiskFilesTest, AnEmptyFileIsEmpty) {
+  put("plik.txt", "");
+  EXPECT_EQ(files.read("plik.txt"), "");
+}
+
+TEST_F(DiskFilesTest, WritesEveryByteAsItIs) {
+  files.create("plik.txt");
+  files.append("plik.txt", allBytes());
+  EXPECT_EQ(files.read("plik.txt"), allBytes());
+}
+
+TEST_F(DiskFilesTest, AppendsBehindWhatIsThere) {
+  files.create("plik.txt");
+  files.append("plik.txt", "a");
+  files.append("plik.txt", "b");
+  EXPECT_EQ(files.read("plik.txt"), "ab");
+}
+
+TEST_F(DiskFilesTest, CreatingAFileEmptiesTheOneThatWasThere) {
+  put("plik.txt", "stare");
+  files.create("plik.txt");
+  EXPECT_EQ(files.read("plik.txt"), "");
+}
+
+TEST_F(DiskFilesTest, ABackslashInANameSeparatesFolders) {
+  fs::create_directories("guit/nuty");
+  put("guit/hard2.wav", "dźwięk");
+  EXPECT_EQ(files.read("guit\\hard2.wav"), "dźwięk");
+  files.create("guit\\nuty\\plik.txt");
+  files.append("guit\\nuty\\plik.txt", "a");
+  EXPECT_EQ(files.read("guit/nuty/plik.txt"), "a");
+}
+
+TEST_F(DiskFilesTest, NamesMayHoldPolishLettersAndBlanks) {
+  files.create("Żółta gęś.boh");
+  files.append("Żółta gęś.boh", "a");
+  EXPECT_TRUE(fs::exists("Żółta gęś.boh"));
+  EXPECT_EQ(files.read("Żółta gęś.boh"), "a");
+}
+
+TEST_F(DiskFilesTest, AMissingFileIsNamedAsNotFound) {
+  EXPECT_EQ(errorTextOf([this] { files.read("bron.cfg"); }), "Błąd wykonania 53: Nie znaleziono pliku\nPlik: bron.cfg");
+}
+
+TEST_F(DiskFilesTest, ANameInAMissingFolderIsAPathNotFound) {
+  EXPECT_EQ(errorTextOf([this] { files.read("guit\\hard2.wav"); }),
+            "Błąd wykonania 76: Nie znaleziono ścieżki\nPlik: guit\\hard2.wav");
+  EXPECT_EQ(errorTextOf([this] { files.create("guit\\hard2.wav"); }),
+            "Błąd wykonania 76: Nie znaleziono ścieżki\nPlik: guit\\hard2.wav");
+  EXPECT_FALSE(fs::exists("guit"));
+}
+
+TEST_F(DiskFilesTest, AFileInPlaceOfAFolderIsAPathNotFound) {
+  put("guit", "");
+  EXPECT_EQ(errorOf([this] { files.read("guit\\hard2.wav"); }), 76);
+  EXPECT_EQ(errorOf([this] { files.create("guit\\hard2.wav"); }), 76);
+}
+
+TEST_F(DiskFilesTest, AFolderInPlaceOfAFileCannotBeReadOrWritten) {
+  fs::create_directory("bron.cfg");
+  EXPECT_EQ(errorTextOf([this] { files.read("bron.cfg"); }),
+            "Błąd wykonania 75: Błąd dostępu do ścieżki lub pliku\nPlik: bron.cfg");
+  EXPECT_EQ(errorOf([this] { files.create("bron.cfg"); }), 75);
+  EXPECT_TRUE(fs::is_directory("bron.cfg"));
+}
+
+TEST_F(DiskFilesTest, AnEmptyNameCannotBeReadOrWritten) {
+  EXPECT_EQ(errorOf([this] { files.read(""); }), 75);
+  EXPECT_EQ(errorOf([this] { files.create(""); }), 75);
+}
+
+TEST_F(DiskFilesTest, AFileThatCannotBeOpenedIsAnAccessError) {
+  const int endpoint = socket(AF_UNIX, SOCK_STREAM, 0);
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  std::strcpy(address.sun_path, "gniazdo");
+  ASSERT_EQ(bind(endpoint, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+  EXPECT_EQ(errorOf([this] { files.read("gniazdo"); }), 75);
+  EXPECT_EQ(errorOf([this] { files.create("gniazdo"); }), 75);
+  close(endpoint);
+}
+
+TEST_F(DiskFilesTest, AFileInAFolderThatTakesNoneCannotBeCreated) {
+  EXPECT_EQ(errorOf([this] { files.create("/proc/brolgan.txt"); }), 75);
+}
+
+TEST_F(DiskFilesTest, AFullDeviceIsAnErrorOfInputAndOutput) {
+  EXPECT_EQ(errorTextOf([this] { files.append("/dev/full", "a"); }),
+            "Błąd wykonania 57: Błąd wejścia/wyjścia urządzenia\nPlik: /dev/full");
+}
+
+TEST_F(DiskFilesTest, AFileWhoseFolderWentAwayCannotBeAppendedTo) {
+  fs::create_directory("guit");
+  files.create("guit\\plik.txt");
+  fs::remove_all("guit");
+  EXPECT_EQ(errorOf([this] { files.append("guit\\plik.txt", "a"); }), 57);
+}
+
+TEST(MemoryFiles, KeepsWhatWasWritten) {
+  MemoryFiles files;
+  files.create("a.txt");
+  files.append("a.txt", "1");
+  files.append("a.txt", "2");
+  EXPECT_EQ(files.read("a.txt"), "12");
+  files.create("a.txt");
+  EXPECT_EQ(files.read("a.txt"), "");
+}
+
+TEST(MemoryFiles, AMissingFileIsNamedAsNotFound) {
+  MemoryFiles files;
+  EXPECT_EQ(errorTextOf([&] { files.read("bron.cfg"); }), "Błąd wykonania 53: Nie znaleziono pliku\nPlik: bron.cfg");
+}
+
+TEST(MemoryFiles, AnEmptyNameIsRefusedAsOnDisk) {
+  MemoryFiles files;
+  EXPECT_EQ(errorOf([&] { files.read(""); }), 75);
+  EXPECT_EQ(errorOf([&] { files.create(""); }), 75);
+}
+
+}  // namespace
+}  // namespace brolgan::test
