@@ -1,5 +1,4 @@
 #include "tests/desktop/stage.h"
-#include "game/game.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -17,6 +16,7 @@
 #include <utility>
 
 #include "desktop/text.h"
+#include "game/game.h"
 
 namespace brolgan::test {
 
@@ -55,13 +55,11 @@ QPoint aimAt(const QWidget& widget) {
 
 }  // namespace
 
-Stage::Stage()
-    : runtime({world.files, world.clock, world.pictures, world.sounds}), face(runtime, pictures) {
+Stage::Stage() : runtime({world.files, world.clock, world.pictures, world.sounds}), face(runtime, pictures) {
   prepare();
 }
 
-Stage::Stage(RealPictures)
-    : runtime({world.files, world.clock, pictures, world.sounds}), face(runtime, pictures) {
+Stage::Stage(RealPictures) : runtime({world.files, world.clock, pictures, world.sounds}), face(runtime, pictures) {
   prepare();
 }
 
