@@ -14,7 +14,7 @@ Options::Options(int count, char** arguments, const std::vector<std::string>& kn
       continue;
     }
     if (std::find(known.begin(), known.end(), word) == known.end() || i + 1 == count) {
-      throw std::invalid_argument("nieznana opcja lub brak wartości: " + word);
+      throw std::invalid_argument("unknown option or no value: " + word);
     }
     values[word] = arguments[++i];
   }

@@ -1,6 +1,6 @@
 // The numbers of the data files keep first fights safe and games of a good length, on a small
 // sample with fixed seeds; the report holds the same aims against a large one.
-#include "simulation/aims.h"
+#include "simulation/report/aims.h"
 
 #include <gtest/gtest.h>
 

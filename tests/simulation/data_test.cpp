@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "rules/weapons.h"
-#include "simulation/knowledge.h"
-#include "simulation/study.h"
+#include "simulation/knowledge/knowledge.h"
+#include "simulation/report/study.h"
 
 namespace brolgan::simulation {
 namespace {

@@ -1,5 +1,5 @@
 // One fight, fought often.
-#include "simulation/duel.h"
+#include "simulation/duel/duel.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // Whole games by the minds: equal seeds, equal games.
-#include "simulation/game.h"
+#include "simulation/games/game.h"
 
 #include <gtest/gtest.h>
 
-#include "simulation/batch.h"
+#include "simulation/games/batch.h"
 
 namespace brolgan::simulation {
 namespace {

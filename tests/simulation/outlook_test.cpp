@@ -1,9 +1,9 @@
 // Reckoning a fight with averages comes close to what the dice do.
-#include "simulation/outlook.h"
+#include "simulation/forecasts/outlook.h"
 
 #include <gtest/gtest.h>
 
-#include "simulation/rehearsal.h"
+#include "simulation/forecasts/rehearsal.h"
 
 namespace brolgan::simulation {
 namespace {

@@ -1,5 +1,5 @@
 // The printed report belongs to the data files as they are now.
-#include "simulation/report.h"
+#include "simulation/report/report.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,7 @@ std::string printedReport() {
 TEST(Report, was_made_from_the_data_files_as_they_are) {
   const DataFiles data = loadData(BROLGAN_ASSETS);
   EXPECT_NE(printedReport().find(fingerprintLine(data)), std::string::npos)
-      << "run simulation/raport.sh to make docs/balans.md anew";
+      << "run simulation/report.sh to make docs/balans.md anew";
 }
 
 TEST(Report, is_outdated_by_a_change_of_a_single_digit) {

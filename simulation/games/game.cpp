@@ -1,0 +1,139 @@
+#include "simulation/games/game.h"
+
+#include <string>
+
+#include "creation/creation.h"
+#include "flow/setup.h"
+#include "flow/starter.h"
+#include "shop/shop.h"
+
+namespace brolgan::simulation {
+
+namespace {
+
+std::string nameOf(int player) { return "Gracz" + std::to_string(player + 1); }
+
+class Table {
+ public:
+  Table(const DataFiles& data, const Knowledge& known, const GameSetup& setup)
+      : known_(known), setup_(setup), stage_(data, setup.seed) {
+    std::uint64_t seed = setup.seed ^ 0xB01DFACEU;
+    for (const Seat& seat : setup.seats) {
+      minds_.push_back(makeMind(seat.mind, known, seat.klasa, nextNumber(seed)));
+      record_.seats.push_back({seat, false, {}, {}});
+    }
+    record_.seed = setup.seed;
+  }
+
+  GameRecord play() {
+    setUp();
+    while (!stage_.runtime.ended() && stage_.runtime.find(CTsklep::kName) != nullptr) {
+      if (!playTurn()) break;
+    }
+    for (std::size_t i = 0; i < minds_.size(); ++i) {
+      record_.seats[i].hero = minds_[i]->notes();
+      record_.seats[i].boughtAt = minds_[i]->boughtAt();
+    }
+    return std::move(record_);
+  }
+
+ private:
+  void setUp() {
+    stage_.runtime.Show(Starter::kName);
+    for (std::size_t i = 0; i < minds_.size(); ++i) {
+      SetUpScreen screen(stage_.runtime);
+      screen.setPoints(setup_.points);
+      screen.create(static_cast<int>(i));
+      CreationScreen creation(stage_.runtime);
+      creation.setName(nameOf(static_cast<int>(i)));
+      creation.chooseClass(setup_.seats[i].klasa);
+      minds_[i]->create(creation);
+      creation.save();
+    }
+    SetUpScreen(stage_.runtime).start();
+  }
+
+  // One turn of the player whose shop is open; answers whether the game may go on.
+  bool playTurn() {
+    ShopScreen shop(stage_.runtime);
+    TurnRecord turn;
+    turn.player = shop.heroName().back() - '1';
+    turn.turn = shop.turn();
+    if (turn.turn > setup_.mostTurns) return false;
+    Mind& mind = *minds_[static_cast<std::size_t>(turn.player)];
+    turn.zone = mind.shop(shop);
+    if (turn.turn == 1 && setup_.firstZone >= 0) turn.zone = setup_.firstZone;
+    shop.goTo(turn.zone);
+    prepare(mind, turn);
+    fight(mind, turn);
+    record_.turns.push_back(turn);
+    mind.hearOutcome(turn.won);
+    return true;
+  }
+
+  void prepare(Mind& mind, TurnRecord& turn) {
+    PreparationScreen screen(stage_.runtime);
+    turn.monster = known_.monsterNamed(screen.monsterName()).number;
+    turn.enduranceBefore = screen.endurance();
+    mind.prepare(screen);
+    screen.finish();
+  }
+
+  void fight(Mind& mind, TurnRecord& turn) {
+    FightScreen screen(stage_.runtime);
+    mind.enter(screen);
+    bool kingBeaten = false;
+    while (screen.isOpen()) {
+      turn.enduranceAfter = screen.endurance();
+      if (screen.fallen()) {
+        leaveFallen(screen, turn);
+        return;
+      }
+      if (screen.cleared()) {
+        kingBeaten = screen.won();
+        turn.won = true;
+      } else {
+        mind.act(screen);
+        ++turn.rounds;
+        turn.enduranceAfter = screen.endurance();
+        if (screen.fallen() || screen.cleared()) continue;
+      }
+      screen.nextRound();
+    }
+    turn.won = true;
+    reward(turn);
+    if (kingBeaten) {
+      record_.winner = turn.player;
+      record_.winnerTurn = turn.turn;
+    }
+  }
+
+  void reward(TurnRecord& turn) const {
+    turn.earned = static_cast<int>(pointsFor(setup_.seats[static_cast<std::size_t>(turn.player)].klasa,
+                                             known_.monsters[static_cast<std::size_t>(turn.monster)]) +
+                                   0.5);
+  }
+
+  void leaveFallen(FightScreen& screen, const TurnRecord& turn) {
+    const HeroNotes& hero = minds_[static_cast<std::size_t>(turn.player)]->notes();
+    int& deaths = deaths_[static_cast<std::size_t>(turn.player)];
+    ++deaths;
+    record_.seats[static_cast<std::size_t>(turn.player)].out = deaths >= hero.value(kLives);
+    screen.closeReport();
+  }
+
+  const Knowledge& known_;
+  const GameSetup& setup_;
+  Stage stage_;
+  std::vector<std::unique_ptr<Mind>> minds_;
+  std::array<int, 4> deaths_{};
+  GameRecord record_;
+};
+
+}  // namespace
+
+GameRecord playGame(const DataFiles& data, const Knowledge& known, const GameSetup& setup) {
+  return Table(data, known, setup).play();
+}
+
+}  // namespace brolgan::simulation

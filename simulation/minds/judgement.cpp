@@ -1,0 +1,199 @@
+#include "simulation/minds/judgement.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "rules/battle.h"
+#include "rules/weapons.h"
+
+namespace brolgan::simulation {
+
+namespace {
+
+constexpr double kHealingMean = 3.5;
+constexpr double kVictory = 90;
+// The zone of all monsters, and how good it must look beside the best one to tempt.
+constexpr int kGamble = 10;
+constexpr double kTemptation = 0.6;
+// So many times his endurance would be taken from a hero whom nothing can save.
+constexpr double kSuicide = 4;
+
+double lifeCost(int lives) {
+  if (lives <= 1) return 40;
+  if (lives == 2) return 14;
+  return lives == 3 ? 8 : 5;
+}
+
+// How much a hero still gains by points: nothing when all that matters is bought.
+double hunger(const HeroNotes& hero) {
+  constexpr double kSated = 30;
+  int missing = 0;
+  for (int i = 0; i < kLives; ++i) missing += kShopStepPrice * (topStep(i) - hero.steps[i]);
+  return std::min(1.0, missing / kSated);
+}
+
+// What a reward is worth to a hero; a gambler cannot save and leaves with what one visit takes.
+double rewardWorth(const HeroNotes& hero, const Monster& monster) {
+  constexpr double kOneVisit = 9;
+  const double points = pointsFor(hero.klasa, monster);
+  return hunger(hero) * (hero.is(kGambler) ? std::min(points, kOneVisit) : points);
+}
+
+}  // namespace
+
+int Offer::place() const {
+  switch (ware) {
+    case Ware::step:
+      return index;
+    case Ware::weapon:
+      return kStatistics + index;
+    case Ware::spell:
+      return kStatistics + kWeapons + index;
+    case Ware::gear:
+      return kStatistics + kWeapons + kSpells + index;
+    case Ware::supply:
+      break;
+  }
+  return kStatistics + kWeapons + kSpells + kGear + index;
+}
+
+void own(HeroNotes& hero, const Offer& offer) {
+  switch (offer.ware) {
+    case Ware::step:
+      ++hero.steps[offer.index];
+      break;
+    case Ware::weapon:
+      hero.owned[offer.index] = true;
+      break;
+    case Ware::spell:
+      hero.spells[offer.index] = true;
+      break;
+    case Ware::gear:
+      (offer.index == kMortar ? hero.mortar : hero.sucker) = true;
+      break;
+    case Ware::supply:
+      (offer.index == kGrenade ? hero.grenades : hero.ammo) += kSupplyTable[offer.index].perPurchase;
+      break;
+  }
+}
+
+HeroNotes onAnOrdinaryDay(HeroNotes hero) {
+  const int regeneration = hero.value(kRegeneration);
+  const int magic = hero.fullMagic();
+  if (hero.is(kMonk)) {
+    hero.endurance = hero.fullEndurance();
+    hero.magic = magic;
+    return hero;
+  }
+  const int healed = hero.spells[kHealing] ? static_cast<int>(kHealingMean * std::min(magic, regeneration)) : 0;
+  hero.endurance = std::min(hero.fullEndurance(), hero.fullEndurance() * 6 / 10 + regeneration + healed);
+  hero.magic = hero.spells[kHealing] ? magic / 2 : std::min(magic, magic / 2 + regeneration);
+  if (hero.is(kWizard)) hero.magic = std::min(magic, hero.magic + 3 * wizardRegain(regeneration).value());
+  return hero;
+}
+
+Judgement::Judgement(const Knowledge& known, Foresight foresight, Foresight reckoning, std::uint64_t seed)
+    : known_(known), foresight_(std::move(foresight)), reckoning_(std::move(reckoning)) {
+  const auto share = [&seed] { return static_cast<double>(nextNumber(seed) >> 11U) * 0x1p-53; };
+  for (double& liking : taste_) liking = 0.75 + 0.5 * share();
+  courage_ = 0.8 + 0.4 * share();
+}
+
+double Judgement::worth(const HeroNotes& hero, const Monster& monster, const Outlook& outlook) const {
+  const double points = monster.last ? kVictory : rewardWorth(hero, monster);
+  const double fall = lifeCost(hero.lives) / courage_;
+  double worth = outlook.win * points - (1 - outlook.win) * fall;
+  worth -= 0.8 * outlook.grenadesUsed + 0.1 * outlook.ammoUsed;
+  if (hero.is(kMonk)) return worth;
+  const int regeneration = hero.value(kRegeneration);
+  const double left = std::max(0.0, hero.endurance - outlook.harm) + regeneration;
+  const double missing = std::max(0.0, hero.fullEndurance() - left) / hero.fullEndurance();
+  const double magicMissing = std::max(0.0, hero.fullMagic() - outlook.magicLeft - regeneration);
+  const double magicWorth = hero.spells[kHealing] ? kHealingMean / hero.fullEndurance() : 0.5 / hero.fullMagic();
+  return worth - 2.5 * outlook.win * (missing * missing + 0.5 * magicMissing * magicWorth * missing);
+}
+
+Prospect Judgement::weigh(const HeroNotes& hero, const Monster& monster, const Plan& plan, int initiative) const {
+  Prospect prospect{plan, foresight_(hero, monster, plan, initiative), 0};
+  prospect.worth = worth(hero, monster, prospect.outlook);
+  return prospect;
+}
+
+void Judgement::tryBetter(Prospect& best, const Plan& plan, const HeroNotes& hero, const Monster& monster,
+                          int init) const {
+  const Prospect other = weigh(hero, monster, plan, init);
+  if (other.worth > best.worth) best = other;
+}
+
+// The two owned weapons that deal the most a round to that group, and the best staff of a caster.
+std::vector<int> Judgement::bestWeapons(const HeroNotes& hero, const Monster& monster) const {
+  std::array<std::pair<double, int>, 3> best{{{-1, -1}, {-1, -1}, {-1, -1}}};
+  for (int i = 0; i < kWeapons; ++i) {
+    if (!hero.owned[i]) continue;
+    const Weapon& weapon = known_.weapons[i];
+    double harm = pastArmour(blowOf(hero, weapon, i), monster.armour);
+    if (weapon.melee && hero.is(kBerserker)) harm *= 2;
+    if (weapon.cannon) harm /= 2;
+    if (weapon.spread) harm *= monster.count;
+    if (harm > best[0].first) {
+      best[1] = best[0];
+      best[0] = {harm, i};
+    } else if (harm > best[1].first) {
+      best[1] = {harm, i};
+    }
+    if (weapon.staff && harm > best[2].first) best[2] = {harm, i};
+  }
+  std::vector<int> found;
+  for (const auto& [harm, i] : best) {
+    if (i >= 0 && std::find(found.begin(), found.end(), i) == found.end()) found.push_back(i);
+  }
+  if (found.empty()) found.push_back(0);
+  return found;
+}
+
+Prospect Judgement::plan(const HeroNotes& hero, const Monster& monster, int initiative) const {
+  const auto weapons = bestWeapons(hero, monster);
+  Prospect best = weigh(hero, monster, {.weapon = weapons[0]}, initiative);
+  for (std::size_t i = 1; i < weapons.size(); ++i) {
+    tryBetter(best, {.weapon = weapons[i]}, hero, monster, initiative);
+  }
+  const auto attempt = [&](auto change) {
+    Plan plan = best.plan;
+    change(plan);
+    tryBetter(best, plan, hero, monster, initiative);
+  };
+  const bool walk = best.outlook.harm < 0.5 && best.outlook.win > 0.99;
+  const bool suicide = best.outlook.win < 0.01 && best.outlook.harm > kSuicide * hero.endurance;
+  if (walk || suicide) return best;
+  if (!hero.is(kBerserker) && hero.magic >= 2) {
+    if (hero.spells[kClass3A]) attempt([](Plan& plan) { plan.shield = true; });
+    for (const int spell : {kDamage, kBullShots, kBoom}) {
+      if (!hero.spells[spell]) continue;
+      for (const int weapon : weapons) {
+        attempt([&](Plan& plan) { plan.spell = spell, plan.weapon = weapon; });
+      }
+    }
+    if (hero.spells[kLuck] && hero.magic >= 4) attempt([](Plan& plan) { plan.luck = true; });
+  }
+  // Another grenade is only thought of when the one before it was worth throwing.
+  for (int grenades = 1; grenades <= std::min(hero.grenades, 4) && best.plan.grenades == grenades - 1; ++grenades) {
+    attempt([grenades](Plan& plan) { plan.grenades = grenades; });
+  }
+  return best;
+}
+
+int Judgement::bestZone(const HeroNotes& hero, bool daring) const {
+  std::array<double, kMonsters> worths{};
+  for (int i = 0; i < kMonsters; ++i) worths[i] = plan(hero, known_.monsters[i], hero.value(kSpeed)).worth;
+  std::array<double, kZoneCount> zones{};
+  for (int zone = 0; zone < kZoneCount; ++zone) {
+    for (int i = kZones[zone].OdPotwora - 1; i < kZones[zone].DoPotwora; ++i) {
+      zones[zone] += drawChance(kZones[zone], i) * worths[i];
+    }
+  }
+  const auto best = std::max_element(zones.begin(), zones.end());
+  const bool gambles = daring && hero.lives > 1 && zones[kGamble] > kTemptation * *best;
+  return gambles ? kGamble : static_cast<int>(best - zones.begin());
+}
+
+}  // namespace brolgan::simulation

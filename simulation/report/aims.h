@@ -1,0 +1,31 @@
+// What the numbers of the game are meant to reach, each held against a study.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "simulation/report/study.h"
+#include "simulation/report/tallies.h"
+
+namespace brolgan::simulation {
+
+struct Aim {
+  std::string text;
+  std::string wanted;
+  std::string found;
+  bool reached = false;
+};
+
+// How safe the first fight is.
+std::vector<Aim> firstFightAims(const Study& study);
+// How long games last and that they end.
+std::vector<Aim> lengthAims(const Study& study);
+// All of them, in the order of the report.
+std::vector<Aim> allAims(const Knowledge& known, const Study& study, const Tallies& tallies);
+
+// A number with one digit behind the point.
+std::string oneDigit(double value);
+// What stands at a place of the purchases, "" for what nobody sells.
+std::string offerName(const Knowledge& known, int place);
+
+}  // namespace brolgan::simulation

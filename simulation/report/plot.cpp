@@ -1,0 +1,127 @@
+#include "simulation/report/plot.h"
+
+#include <algorithm>
+#include <cmath>
+#include <sstream>
+
+namespace brolgan::simulation {
+
+namespace {
+
+constexpr int kWidth = 760;
+constexpr int kTop = 46;
+constexpr const char* kInk = "#2b2b2b";
+constexpr const char* kFill = "#8a3b2a";
+constexpr const char* kPaper = "#fbf7ee";
+
+std::string text(double x, double y, const std::string& words, const char* anchor, int size = 13) {
+  std::ostringstream out;
+  out << "<text x=\"" << x << "\" y=\"" << y << "\" font-size=\"" << size << "\" text-anchor=\"" << anchor
+      << "\" fill=\"" << kInk << "\">" << words << "</text>\n";
+  return out.str();
+}
+
+std::string box(double x, double y, double width, double height, const std::string& fill) {
+  std::ostringstream out;
+  out << "<rect x=\"" << x << "\" y=\"" << y << "\" width=\"" << width << "\" height=\"" << height << "\" fill=\""
+      << fill << "\"/>\n";
+  return out.str();
+}
+
+std::string line(double x, double top, double bottom) {
+  std::ostringstream out;
+  out << "<line x1=\"" << x << "\" y1=\"" << top << "\" x2=\"" << x << "\" y2=\"" << bottom
+      << "\" stroke=\"#4a6b3a\" stroke-dasharray=\"4 3\"/>\n";
+  return out.str();
+}
+
+std::string sheet(const std::string& title, int height, const std::string& body) {
+  std::ostringstream out;
+  out << "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 " << kWidth << " " << height
+      << "\" font-family=\"DejaVu Sans, sans-serif\">\n"
+      << box(0, 0, kWidth, height, kPaper) << text(kWidth / 2.0, 26, title, "middle", 17) << body << "</svg>\n";
+  return out.str();
+}
+
+std::string shown(double value) {
+  std::ostringstream out;
+  out << std::round(value * 10) / 10;
+  return out.str();
+}
+
+double largest(const std::vector<double>& values) {
+  double most = 1e-9;
+  for (const double value : values) most = std::max(most, value);
+  return most;
+}
+
+}  // namespace
+
+std::string barChart(const std::string& title, const std::vector<Bar>& bars, const std::vector<double>& guides) {
+  constexpr int kLeft = 220;
+  constexpr int kRow = 20;
+  std::vector<double> values = guides;
+  for (const Bar& bar : bars) values.push_back(bar.value);
+  const double scale = (kWidth - kLeft - 70) / largest(values);
+  const int bottom = kTop + kRow * static_cast<int>(bars.size());
+  std::string body;
+  for (std::size_t i = 0; i < bars.size(); ++i) {
+    const double y = kTop + kRow * static_cast<double>(i);
+    body += text(kLeft - 8, y + 14, bars[i].name, "end");
+    body += box(kLeft, y + 3, bars[i].value * scale, kRow - 6, kFill);
+    body += text(kLeft + bars[i].value * scale + 6, y + 14, shown(bars[i].value), "start", 12);
+  }
+  for (const double guide : guides) body += line(kLeft + guide * scale, kTop, bottom);
+  return sheet(title, bottom + 16, body);
+}
+
+std::string histogram(const std::string& title, const std::string& axis, int first, const std::vector<double>& values) {
+  constexpr int kLeft = 40;
+  constexpr int kHeight = 220;
+  const double step = (kWidth - 2.0 * kLeft) / std::max<double>(1, static_cast<double>(values.size()));
+  const double scale = kHeight / largest(values);
+  const int bottom = kTop + kHeight + 10;
+  std::string body;
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const double x = kLeft + step * static_cast<double>(i);
+    body += box(x + 1, bottom - values[i] * scale, step - 2, values[i] * scale, kFill);
+    if (values.size() <= 30) body += text(x + step / 2, bottom - values[i] * scale - 4, shown(values[i]), "middle", 9);
+    const int number = first + static_cast<int>(i);
+    if (values.size() <= 30 || number % 5 == 0) {
+      body += text(x + step / 2, bottom + 15, std::to_string(number), "middle", 11);
+    }
+  }
+  body += text(kWidth / 2.0, bottom + 34, axis, "middle", 12);
+  return sheet(title, bottom + 46, body);
+}
+
+std::string shadeTable(const std::string& title, const std::string& axis, const std::vector<std::string>& rows,
+                       const std::vector<std::vector<double>>& shares) {
+  constexpr int kLeft = 190;
+  constexpr int kRow = 22;
+  const std::size_t columns = shares.empty() ? 0 : shares.front().size();
+  const double step = (kWidth - kLeft - 20.0) / std::max<double>(1, static_cast<double>(columns));
+  const int bottom = kTop + kRow * static_cast<int>(rows.size());
+  std::string body;
+  for (std::size_t row = 0; row < rows.size(); ++row) {
+    const double y = kTop + kRow * static_cast<double>(row);
+    body += text(kLeft - 8, y + 15, rows[row], "end");
+    for (std::size_t i = 0; i < columns; ++i) {
+      const double share = shares[row][i];
+      std::ostringstream fill;
+      fill << kFill << "\" fill-opacity=\"" << std::min(1.0, std::sqrt(share) * 1.2);
+      body += box(kLeft + step * static_cast<double>(i), y + 1, step - 1, kRow - 2, fill.str());
+      if (share >= 0.005) {
+        body += text(kLeft + step * (static_cast<double>(i) + 0.5), y + 15,
+                     std::to_string(static_cast<int>(std::lround(share * 100))), "middle", 10);
+      }
+    }
+  }
+  for (std::size_t i = 0; i < columns; ++i) {
+    body += text(kLeft + step * (static_cast<double>(i) + 0.5), bottom + 14, std::to_string(i + 1), "middle", 10);
+  }
+  body += text(kWidth / 2.0, bottom + 34, axis, "middle", 12);
+  return sheet(title, bottom + 46, body);
+}
+
+}  // namespace brolgan::simulation

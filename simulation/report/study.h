@@ -1,0 +1,72 @@
+// The study behind the report: the games and trials that tell how well the numbers of the data
+// files serve the game, and the figures drawn from them.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "simulation/games/batch.h"
+
+namespace brolgan::simulation {
+
+struct StudySetup {
+  int games = 1000;     // of four sensible players with random classes
+  int rivalries = 300;  // of each mind against the sensible one
+  int trials = 400;     // first fights of each class
+  int players = 4;
+  int points = 12;
+  int threads = 1;
+  std::uint64_t seed = 1;
+  MindKind mind = MindKind::sensible;
+};
+
+// Wins of two kinds of minds at the same tables, two seats each.
+struct Rivalry {
+  MindKind other = MindKind::naive;
+  int games = 0;
+  int sensible = 0;
+  int others = 0;
+};
+
+struct FirstFights {
+  int tries = 0;
+  int fresh = 0;  // won by a hero on whom the points were spent
+  int bare = 0;   // won by one on whom nothing was spent
+};
+
+struct Study {
+  StudySetup setup;
+  std::vector<GameRecord> games;
+  std::vector<Rivalry> rivalries;
+  std::array<FirstFights, kClasses> firstFights{};
+  double seconds = 0;  // that the games took
+};
+
+// Hears what is being done and how far it has come.
+using Progress = std::function<void(const char* what, int done, int all)>;
+
+Study makeStudy(const DataFiles& data, const StudySetup& setup, const Progress& progress = {});
+
+// Wins of first fights in the weakest zone, by heroes of one class.
+FirstFights tryFirstFights(const DataFiles& data, const Knowledge& known, int klasa, const StudySetup& setup);
+
+// The turns at which games were won, in rising order.
+std::vector<int> winningTurns(const std::vector<GameRecord>& games);
+// The value below which that share of a sorted row lies.
+int quantile(const std::vector<int>& sorted, double share);
+// The share of the games won by each class, were all classes seated equally often.
+std::array<double, kClasses> classShares(const std::vector<GameRecord>& games);
+
+// Weapons for which another, no dearer, is at least as good against every monster in every hand.
+struct Dominated {
+  std::string weapon;
+  std::string by;
+};
+std::vector<Dominated> dominatedWeapons(const Knowledge& known);
+
+// A fingerprint of both data files.
+std::string fingerprint(const DataFiles& data);
+
+}  // namespace brolgan::simulation
