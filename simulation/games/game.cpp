@@ -20,7 +20,8 @@ class Table {
     std::uint64_t seed = setup.seed ^ 0xB01DFACEU;
     for (const Seat& seat : setup.seats) {
       minds_.push_back(makeMind(seat.mind, known, seat.klasa, nextNumber(seed)));
-      record_.seats.push_back({seat, false, {}, {}});
+      minds_.back()->renounce(seat.without);
+      record_.seats.push_back({.seat = seat});
     }
     record_.seed = setup.seed;
   }
@@ -63,6 +64,8 @@ class Table {
     Mind& mind = *minds_[static_cast<std::size_t>(turn.player)];
     turn.zone = mind.shop(shop);
     if (turn.turn == 1 && setup_.firstZone >= 0) turn.zone = setup_.firstZone;
+    noteGrown(mind, turn);
+    turn.armour = mind.notes().value(kArmour);
     shop.goTo(turn.zone);
     prepare(mind, turn);
     fight(mind, turn);
@@ -71,11 +74,18 @@ class Table {
     return true;
   }
 
+  void noteGrown(const Mind& mind, const TurnRecord& turn) {
+    SeatRecord& seat = record_.seats[static_cast<std::size_t>(turn.player)];
+    if (turn.zone < kFirstLateZone || turn.zone == kPandoria || seat.grownTurn > 0) return;
+    seat.grown = mind.notes();
+    seat.grownTurn = turn.turn;
+  }
+
   void prepare(Mind& mind, TurnRecord& turn) {
     PreparationScreen screen(stage_.runtime);
     turn.monster = known_.monsterNamed(screen.monsterName()).number;
-    turn.enduranceBefore = screen.endurance();
     mind.prepare(screen);
+    turn.enduranceBefore = screen.endurance();
     screen.finish();
   }
 

@@ -12,7 +12,11 @@ namespace brolgan::simulation {
 struct Seat {
   int klasa = 0;
   MindKind mind = MindKind::sensible;
+  int without = -1;  // the place of what he never buys, -1 for none
 };
+
+// From here on, counted from 0, a zone is one of the later ones; the gamble is not.
+inline constexpr int kFirstLateZone = 5;
 
 struct GameSetup {
   std::vector<Seat> seats;
@@ -28,16 +32,21 @@ struct TurnRecord {
   int zone = 0;
   int monster = 0;
   int rounds = 0;
-  int enduranceBefore = 0;
+  int enduranceBefore = 0;  // when the preparation was done
   int enduranceAfter = 0;
   int earned = 0;
+  int armour = 0;
   bool won = false;
+
+  [[nodiscard]] int lost() const { return enduranceBefore - enduranceAfter; }
 };
 
 struct SeatRecord {
   Seat seat;
   bool out = false;
   HeroNotes hero;
+  HeroNotes grown;  // when he first chose one of the later zones; no turns when he never did
+  int grownTurn = 0;
   std::array<int, kOfferPlaces> boughtAt{};
 };
 

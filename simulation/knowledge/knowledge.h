@@ -18,6 +18,9 @@ inline constexpr int kWeapons = 20;
 inline constexpr int kMelees = 10;
 inline constexpr int kMonsters = 45;
 inline constexpr int kZoneCount = 12;
+// Zones of note, counted from 0: the gamble among all monsters, and where the king is met.
+inline constexpr int kPandoria = 10;
+inline constexpr int kThroneZone = 11;
 
 // A dice expression with what it gives on average and how far it spreads.
 struct Throw {

@@ -1,10 +1,9 @@
 #include "simulation/minds/bare_mind.h"
 
-namespace brolgan::simulation {
+#include "simulation/forecasts/blow.h"
+#include "simulation/minds/tactics.h"
 
-void attackOut(FightScreen& screen) {
-  for (int blow = 0; blow < 2 && screen.mayAttack() && !screen.cleared(); ++blow) screen.attack();
-}
+namespace brolgan::simulation {
 
 void BareMind::enter(FightScreen& screen) {
   const double melee = blowOf(notes_, known_.weapons[0], 0).mean;

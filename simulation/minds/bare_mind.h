@@ -17,7 +17,4 @@ class BareMind : public Mind {
   void act(FightScreen& screen) override;
 };
 
-// Attacks as often as the button lets, at most twice, until the group is gone.
-void attackOut(FightScreen& screen);
-
 }  // namespace brolgan::simulation

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "fight/choices.h"
-#include "simulation/minds/bare_mind.h"
 
 namespace brolgan::simulation {
 
@@ -13,14 +12,15 @@ namespace {
 constexpr double kGoodEnough = 0.5;
 constexpr double kUseless = 0.0008;
 constexpr int kPatience = 14;
-// One visit in so many finds a player in the mood for a gamble.
-constexpr int kDaring = 8;
 
 }  // namespace
 
 CarefulMind::CarefulMind(const Knowledge& known, int klasa, std::uint64_t seed, Foresight foresight,
-                         Foresight reckoning)
-    : Mind(known, klasa, seed), judgement_(known, std::move(foresight), std::move(reckoning), seed) {}
+                         Foresight reckoning, const Temper& temper)
+    : Mind(known, klasa, seed),
+      judgement_(known, std::move(foresight), std::move(reckoning), temper, seed),
+      mood_(temper.mood),
+      tactics_(known) {}
 
 void CarefulMind::create(CreationScreen& screen) {
   beginHero(screen);
@@ -48,7 +48,8 @@ bool CarefulMind::isOpen(const DepartmentScreen& screen, const Offer& offer) {
 }
 
 bool CarefulMind::buyBest(DepartmentScreen& screen, bool atCreation) {
-  const auto offers = judgement_.offers(notes_, atCreation);
+  auto offers = judgement_.offers(notes_, atCreation);
+  std::erase_if(offers, [this](const Offer& offer) { return offer.place() == renounced_; });
   const auto atHand = [&](const Offer& offer) { return offer.price <= notes_.points && isOpen(screen, offer); };
   if (std::none_of(offers.begin(), offers.end(), atHand)) return false;
   const int reach = notes_.points + (atCreation || notes_.is(kGambler) ? 0 : kPatience);
@@ -74,7 +75,7 @@ int CarefulMind::shop(ShopScreen& screen) {
   screen.read(notes_);
   turn_ = screen.turn();
   spend(screen, false);
-  return judgement_.bestZone(notes_, below(kDaring) == 0);
+  return judgement_.bestZone(notes_, below(mood_) == 0);
 }
 
 double CarefulMind::worthNow(int initiative) const { return judgement_.plan(notes_, *monster_, initiative).worth; }
@@ -113,62 +114,8 @@ void CarefulMind::prepare(PreparationScreen& screen) {
   plan_ = judgement_.plan(notes_, *monster_, screen.initiative()).plan;
 }
 
-void CarefulMind::enter(FightScreen& screen) {
-  screen.chooseWeapon(known_.weapons[plan_.weapon].name);
-  grenadesLeft_ = plan_.grenades;
-  lucky_ = false;
-  reloading_ = false;
-}
+void CarefulMind::enter(FightScreen& screen) { tactics_.begin(screen, plan_); }
 
-bool CarefulMind::castSpell(FightScreen& screen, const char* name) {
-  if (!screen.mayCast() || !screen.chooseSpell(name)) return false;
-  if (name == kBullShotsSpell) screen.typeMagic(bullMagic(screen.magic(), screen.targetLife(), screen.targetArmour()));
-  screen.cast();
-  return true;
-}
-
-// The spells of the plan, in their order of haste; answers whether one was cast.
-bool CarefulMind::castPlanned(FightScreen& screen) {
-  const int magic = screen.magic();
-  if (notes_.is(kBerserker)) return false;
-  if (plan_.shield && magic >= 2 && screen.armour() <= notes_.value(kArmour)) return castSpell(screen, kClass3ASpell);
-  if (plan_.luck && magic >= 4 && !lucky_) return lucky_ = castSpell(screen, kLuckSpell);
-  if (plan_.spell == kDamage && magic >= 2) return castSpell(screen, kDamageSpell);
-  if (plan_.spell == kBoom && magic >= 4) return castSpell(screen, kBoomSpell);
-  if (plan_.spell == kBullShots && magic >= 2) return castSpell(screen, kBullShotsSpell);
-  const bool hurt = screen.endurance() + 4 <= notes_.fullEndurance();
-  if (known_.weapons[plan_.weapon].staff && hurt && magic >= 1) return castSpell(screen, kHealingSpell);
-  return false;
-}
-
-void CarefulMind::loadAmmo(FightScreen& screen) {
-  if (notes_.ammo > 0 && screen.mayUse() && screen.chooseItem(kAmmoItem)) {
-    screen.use();
-    --notes_.ammo;
-  }
-}
-
-void CarefulMind::strike(FightScreen& screen) {
-  const Weapon& weapon = known_.weapons[plan_.weapon];
-  if (!weapon.melee && !reloading_) loadAmmo(screen);
-  attackOut(screen);
-  if (screen.warned()) ++notes_.lostEndurance;
-  reloading_ = weapon.cannon && !reloading_;
-  if (weapon.melee) notes_.percent[plan_.weapon] = screen.shownPercent();
-}
-
-void CarefulMind::throwGrenade(FightScreen& screen) {
-  if (grenadesLeft_ <= 0 || screen.cleared() || !screen.mayUse() || !screen.chooseItem(kGrenadeItem)) return;
-  screen.use();
-  --grenadesLeft_;
-}
-
-void CarefulMind::act(FightScreen& screen) {
-  const bool cast = castPlanned(screen);
-  if (screen.cleared()) return;
-  if (!cast || known_.weapons[plan_.weapon].staff) strike(screen);
-  throwGrenade(screen);
-  lucky_ = false;
-}
+void CarefulMind::act(FightScreen& screen) { tactics_.act(screen, notes_); }
 
 }  // namespace brolgan::simulation

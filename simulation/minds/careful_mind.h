@@ -2,12 +2,14 @@
 #pragma once
 
 #include "simulation/minds/mind.h"
+#include "simulation/minds/tactics.h"
 
 namespace brolgan::simulation {
 
 class CarefulMind : public Mind {
  public:
-  CarefulMind(const Knowledge& known, int klasa, std::uint64_t seed, Foresight foresight, Foresight reckoning);
+  CarefulMind(const Knowledge& known, int klasa, std::uint64_t seed, Foresight foresight, Foresight reckoning,
+              const Temper& temper);
 
   void create(CreationScreen& screen) override;
   int shop(ShopScreen& screen) override;
@@ -23,18 +25,12 @@ class CarefulMind : public Mind {
   [[nodiscard]] double worthNow(int initiative) const;
   bool healIfWorth(PreparationScreen& screen);
   void hurryIfWorth(PreparationScreen& screen);
-  bool castPlanned(FightScreen& screen);
-  bool castSpell(FightScreen& screen, const char* name);
-  void strike(FightScreen& screen);
-  void loadAmmo(FightScreen& screen);
-  void throwGrenade(FightScreen& screen);
 
   Judgement judgement_;
+  int mood_;
   const Monster* monster_ = nullptr;
   Plan plan_;
-  int grenadesLeft_ = 0;
-  bool lucky_ = false;
-  bool reloading_ = false;
+  Tactics tactics_;
 };
 
 }  // namespace brolgan::simulation

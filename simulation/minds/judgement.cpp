@@ -12,9 +12,6 @@ namespace {
 
 constexpr double kHealingMean = 3.5;
 constexpr double kVictory = 90;
-// The zone of all monsters, and how good it must look beside the best one to tempt.
-constexpr int kGamble = 10;
-constexpr double kTemptation = 0.6;
 // So many times his endurance would be taken from a hero whom nothing can save.
 constexpr double kSuicide = 4;
 
@@ -92,11 +89,13 @@ HeroNotes onAnOrdinaryDay(HeroNotes hero) {
   return hero;
 }
 
-Judgement::Judgement(const Knowledge& known, Foresight foresight, Foresight reckoning, std::uint64_t seed)
+Judgement::Judgement(const Knowledge& known, Foresight foresight, Foresight reckoning, const Temper& temper,
+                     std::uint64_t seed)
     : known_(known), foresight_(std::move(foresight)), reckoning_(std::move(reckoning)) {
   const auto share = [&seed] { return static_cast<double>(nextNumber(seed) >> 11U) * 0x1p-53; };
   for (double& liking : taste_) liking = 0.75 + 0.5 * share();
-  courage_ = 0.8 + 0.4 * share();
+  courage_ = temper.courage * (0.8 + 0.4 * share());
+  temptation_ = temper.temptation;
 }
 
 double Judgement::worth(const HeroNotes& hero, const Monster& monster, const Outlook& outlook) const {
@@ -192,8 +191,8 @@ int Judgement::bestZone(const HeroNotes& hero, bool daring) const {
     }
   }
   const auto best = std::max_element(zones.begin(), zones.end());
-  const bool gambles = daring && hero.lives > 1 && zones[kGamble] > kTemptation * *best;
-  return gambles ? kGamble : static_cast<int>(best - zones.begin());
+  const bool gambles = daring && hero.lives > 1 && zones[kPandoria] > temptation_ * *best;
+  return gambles ? kPandoria : static_cast<int>(best - zones.begin());
 }
 
 }  // namespace brolgan::simulation

@@ -27,11 +27,20 @@ struct Offer {
 };
 inline constexpr int kOfferPlaces = kStatistics + kWeapons + kSpells + kGear + kSupplies;
 
+// How much a player likes a risk.
+struct Temper {
+  double courage = 1;     // the less a lost life counts
+  double temptation = 1;  // how good a gamble must look beside the best choice
+  int mood = 1;           // one visit in so many finds him in the mood for one
+};
+inline constexpr Temper kSensible = {1, 0.5, 3};
+inline constexpr Temper kDaredevil = {2.5, 0.2, 2};
+
 class Judgement {
  public:
   // Fights are foreseen by foresight and goods by reckoning; seed makes the tastes by which one
   // player differs from another.
-  Judgement(const Knowledge& known, Foresight foresight, Foresight reckoning, std::uint64_t seed);
+  Judgement(const Knowledge& known, Foresight foresight, Foresight reckoning, const Temper& temper, std::uint64_t seed);
 
   [[nodiscard]] Prospect plan(const HeroNotes& hero, const Monster& monster, int initiative) const;
   // The zone worth most; a daring player with a life to spare takes the gamble when it tempts him.
@@ -62,6 +71,7 @@ class Judgement {
   Foresight reckoning_;
   std::array<double, kOfferPlaces> taste_{};
   double courage_ = 1;
+  double temptation_ = 1;
 };
 
 // Puts what was bought into the notes.

@@ -6,12 +6,12 @@
 #include "simulation/forecasts/rehearsal.h"
 #include "simulation/minds/bare_mind.h"
 #include "simulation/minds/careful_mind.h"
-#include "simulation/minds/naive_mind.h"
+#include "simulation/minds/newcomer_mind.h"
 
 namespace brolgan::simulation {
 
-const std::array<const char*, kMindKinds> kMindNames = {"naiwny", "rozsądny", "chciwy", "goły"};
-const std::array<const char*, kMindKinds> kMindWords = {"naive", "sensible", "greedy", "bare"};
+const std::array<const char*, kMindKinds> kMindNames = {"nowicjusz", "rozsądny", "chciwy", "hazardzista", "goły"};
+const std::array<const char*, kMindKinds> kMindWords = {"newcomer", "sensible", "greedy", "gambler", "bare"};
 
 void Mind::beginHero(const DepartmentScreen& screen) {
   std::fill_n(notes_.percent.begin(), kMelees, kClassTable[static_cast<std::size_t>(notes_.klasa)].meleePercent);
@@ -50,12 +50,14 @@ bool Mind::buy(DepartmentScreen& screen, const Offer& offer) {
 std::unique_ptr<Mind> makeMind(MindKind kind, const Knowledge& known, int klasa, std::uint64_t seed) {
   const Foresight reckon = reckoning(known);
   switch (kind) {
-    case MindKind::naive:
-      return std::make_unique<NaiveMind>(known, klasa, seed);
+    case MindKind::newcomer:
+      return std::make_unique<NewcomerMind>(known, klasa, seed);
     case MindKind::sensible:
-      return std::make_unique<CarefulMind>(known, klasa, seed, reckon, reckon);
+      return std::make_unique<CarefulMind>(known, klasa, seed, reckon, reckon, kSensible);
     case MindKind::greedy:
-      return std::make_unique<CarefulMind>(known, klasa, seed, rehearsing(known, seed, reckon), reckon);
+      return std::make_unique<CarefulMind>(known, klasa, seed, rehearsing(known, seed, reckon), reckon, kSensible);
+    case MindKind::gambler:
+      return std::make_unique<CarefulMind>(known, klasa, seed, reckon, reckon, kDaredevil);
     case MindKind::bare:
       return std::make_unique<BareMind>(known, klasa, seed);
   }

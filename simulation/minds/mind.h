@@ -11,8 +11,8 @@
 
 namespace brolgan::simulation {
 
-enum class MindKind { naive, sensible, greedy, bare };
-inline constexpr int kMindKinds = 4;
+enum class MindKind { newcomer, sensible, greedy, gambler, bare };
+inline constexpr int kMindKinds = 5;
 // Their names in the report and on the command line.
 extern const std::array<const char*, kMindKinds> kMindNames;
 extern const std::array<const char*, kMindKinds> kMindWords;
@@ -34,6 +34,9 @@ class Mind {
   virtual void act(FightScreen& screen) = 0;
   virtual void hearOutcome(bool /*won*/) {}
 
+  // From now on never buys what lies at that place; -1 for nothing.
+  void renounce(int place) { renounced_ = place; }
+
   [[nodiscard]] const HeroNotes& notes() const { return notes_; }
   // At which turn each good was bought for the first time, -1 when never.
   [[nodiscard]] const std::array<int, kOfferPlaces>& boughtAt() const { return boughtAt_; }
@@ -48,6 +51,7 @@ class Mind {
   const Knowledge& known_;
   HeroNotes notes_;
   int turn_ = 0;
+  int renounced_ = -1;
 
  private:
   std::uint64_t seed_;

@@ -150,7 +150,7 @@ std::vector<Aim> allAims(const Knowledge& known, const Study& study, const Talli
   for (const Aim& aim : lengthAims(study)) aims.push_back(aim);
   aims.push_back(classAim(study));
   for (const Rivalry& rivalry : study.rivalries) {
-    if (rivalry.other == MindKind::naive) aims.push_back(rivalryAim(rivalry));
+    if (rivalry.other == MindKind::newcomer) aims.push_back(rivalryAim(rivalry));
   }
   aims.push_back(zoneAim(tallies));
   aims.push_back(gambleAim(tallies));

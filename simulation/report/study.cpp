@@ -113,7 +113,7 @@ Study makeStudy(const DataFiles& data, const StudySetup& setup, const Progress& 
   const auto began = std::chrono::steady_clock::now();
   study.games = playGames(data, known, setup.games, setup.threads, table, named(progress, "partie", setup.games));
   study.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
-  for (const MindKind other : {MindKind::naive, MindKind::greedy}) {
+  for (const MindKind other : {MindKind::newcomer, MindKind::greedy}) {
     if (setup.rivalries > 0) study.rivalries.push_back(playRivalry(data, known, other, setup, progress));
   }
   for (int klasa = 0; klasa < kClasses; ++klasa) {

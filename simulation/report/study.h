@@ -24,7 +24,7 @@ struct StudySetup {
 
 // Wins of two kinds of minds at the same tables, two seats each.
 struct Rivalry {
-  MindKind other = MindKind::naive;
+  MindKind other = MindKind::newcomer;
   int games = 0;
   int sensible = 0;
   int others = 0;

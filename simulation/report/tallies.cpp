@@ -4,8 +4,6 @@ namespace brolgan::simulation {
 
 namespace {
 
-constexpr int kGamble = 10;
-constexpr int kThrone = 11;
 constexpr int kGrownTurn = 12;
 
 void add(Tally& tally, const TurnRecord& turn) {
@@ -18,8 +16,11 @@ void add(Tallies& all, const TurnRecord& turn) {
   ++all.allTurns;
   add(all.monsters[static_cast<std::size_t>(turn.monster)], turn);
   add(all.zones[static_cast<std::size_t>(turn.zone)], turn);
-  if (turn.zone == kGamble) ++all.gambles, all.gamblesWon += turn.won ? 1 : 0;
-  if (turn.zone == kThrone && turn.turn < kGrownTurn) ++all.earlyThrones;
+  if (turn.zone == kPandoria) {
+    ++all.gambles;
+    all.gamblesWon += turn.won ? 1 : 0;
+  }
+  if (turn.zone == kThroneZone && turn.turn < kGrownTurn) ++all.earlyThrones;
   if (turn.turn > kShownTurns) return;
   const auto column = static_cast<std::size_t>(turn.turn - 1);
   add(all.turns[column], turn);

@@ -25,6 +25,7 @@ std::string heroWith(int endurance) {
   hero.Wcielenia = 1;
   hero.MaBronww(0) = true;
   hero.MaBronss(0) = true;
+  hero.MaBronss(9) = true;
   hero.Tura = 1;
   MemoryFiles files;
   ItemWriter out(files, "h");
@@ -62,9 +63,29 @@ TEST(Duel, of_a_weakling_with_the_last_monster_is_always_lost) {
 
 TEST(Duel, takes_as_much_endurance_as_is_missing_after_a_win) {
   const DuelResult result = duel(5000, 2, 1);
-  const double regained = 1;
   const double lost = 5000 - result.enduranceAfterWin.mean;
-  EXPECT_NEAR(lost, result.takenARound.mean * result.rounds.mean, regained + 0.01);
+  EXPECT_NEAR(lost, result.takenARound.mean * result.rounds.mean, 1e-6);
+}
+
+// The hero is slower than the monster and fells it with his first blow: all that he loses, he loses
+// before it.
+TEST(Duel, counts_the_opening_strike_of_the_quicker_monster) {
+  DataFiles data = loadData(BROLGAN_ASSETS);
+  data.monsters = "1\r\n1\r\nOsa\r\nosa.jpg\r\n30\r\n7\r\n7\r\n1\r\n0\r\n1\r\n0\r\n";
+  const DuelResult result = fightDuel(data, {heroWith(50), 0, "Nóż", 50, 1, 1});
+  EXPECT_EQ(result.rounds.mean, 1);
+  EXPECT_EQ(result.takenARound.mean, 7);
+  EXPECT_EQ(result.enduranceAfterWin.mean, 43);
+}
+
+// Each fight is one shot of the "UltiGun", which costs a hero of full endurance 1 in one case of 18.
+TEST(Duel, counts_the_price_of_the_last_shot_of_the_ultigun) {
+  DataFiles data = loadData(BROLGAN_ASSETS);
+  data.monsters = "1\r\n1\r\nOsa\r\nosa.jpg\r\n1\r\n7\r\n7\r\n1\r\n0\r\n1\r\n0\r\n";
+  const DuelResult result = fightDuel(data, {heroWith(50), 0, "UltiGun", 4000, 1, 1});
+  EXPECT_EQ(result.rounds.mean, 1);
+  EXPECT_NEAR(50 - result.enduranceAfterWin.mean, 1.0 / 18, 0.02);
+  EXPECT_NEAR(result.takenARound.mean, 50 - result.enduranceAfterWin.mean, 1e-9);
 }
 
 TEST(Duel, finds_other_figures_within_its_own_errors_with_another_seed) {

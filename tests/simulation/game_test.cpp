@@ -26,7 +26,7 @@ std::vector<GameRecord> games(int threads, std::uint64_t run) {
   const DataFiles data = loadData(BROLGAN_ASSETS);
   const Knowledge known(data);
   return playGames(data, known, 6, threads, [run](int i) {
-    return randomTable(seedOf(run, i), 3, {MindKind::sensible, MindKind::naive});
+    return randomTable(seedOf(run, i), 3, {MindKind::sensible, MindKind::newcomer});
   });
 }
 
@@ -51,7 +51,7 @@ TEST(Game, of_a_single_player_ends_with_his_last_life_or_the_last_monster) {
   const DataFiles data = loadData(BROLGAN_ASSETS);
   const Knowledge known(data);
   for (int i = 0; i < 5; ++i) {
-    GameSetup setup = randomTable(seedOf(11, i), 1, {MindKind::naive});
+    GameSetup setup = randomTable(seedOf(11, i), 1, {MindKind::newcomer});
     setup.mostTurns = 400;
     const GameRecord game = playGame(data, known, setup);
     EXPECT_TRUE(game.winner == 0 || game.seats[0].out);

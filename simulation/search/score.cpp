@@ -1,0 +1,128 @@
+#include "simulation/search/score.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "simulation/report/tallies.h"
+
+namespace brolgan::simulation {
+
+namespace {
+
+constexpr std::uint64_t kAloneSeed = 0x4000;
+constexpr int kThirdZone = 2;
+constexpr double kWeaponsForSale = 18;
+
+double above(double found, double most, double felt) { return std::max(0.0, found - most) / felt; }
+double under(double found, double least, double felt) { return std::max(0.0, least - found) / felt; }
+double outside(double found, double least, double most, double felt) {
+  return above(found, most, felt) + under(found, least, felt);
+}
+
+Term deathTerm(const Measures& all) {
+  double miss = 0;
+  double worst = 0;
+  for (std::size_t zone = kThirdZone; zone < kPandoria; ++zone) {
+    const double deaths = 100 * all.zones[zone].deaths.value();
+    miss += outside(deaths, 2, 6, 2) / (kPandoria - kThirdZone);
+    worst = std::max(worst, deaths);
+  }
+  return {"deaths", worst, miss * 2};
+}
+
+Term rankTerm(const Knowledge& known, const Measures& all) {
+  double miss = 0;
+  double least = 1;
+  for (int zone = 0; zone < kPandoria; ++zone) {
+    const double found = rewardFollowsDanger(known, all, zone);
+    miss += under(found, 0.6, 0.5) / kPandoria;
+    least = std::min(least, found);
+  }
+  return {"reward_follows_danger", least, miss};
+}
+
+Term classTerm(const std::vector<GameRecord>& games) {
+  double miss = 0;
+  double most = 0;
+  for (const double share : classShares(games)) {
+    miss += outside(100 * share, 6, 15, 10) / 3;
+    most = std::max(most, 100 * share);
+  }
+  return {"classes", most, miss};
+}
+
+Term purchaseTerm(const Tallies& tallies) {
+  double miss = 0;
+  double least = 100;
+  for (int i = 0; i < kWeapons; ++i) {
+    if (i == 0 || i == kMelees) continue;
+    const double share = tallies.boughtShare(kStatistics + i);
+    miss += under(share, 3, 3) * 3 / kWeaponsForSale;
+    least = std::min(least, share);
+  }
+  return {"weapons", least, miss};
+}
+
+Term harmlessTerm(const Knowledge& known, const Measures& all) {
+  const auto count = static_cast<double>(harmlessMonsters(known, all).size());
+  return {"harmless", count, count / 3};
+}
+
+double endedShare(const std::vector<GameRecord>& games) {
+  const auto won = std::count_if(games.begin(), games.end(), [](const GameRecord& game) { return game.winner >= 0; });
+  return games.empty() ? 0 : static_cast<double>(won) / static_cast<double>(games.size());
+}
+
+}  // namespace
+
+double Score::sum() const {
+  double all = 0;
+  for (const Term& term : terms) all += term.miss;
+  return all;
+}
+
+Sample playSample(const DataFiles& data, int games, int threads, std::uint64_t seed) {
+  const Knowledge known(data);
+  const auto tableOf = [](std::uint64_t run, int players) {
+    return [run, players](int i) { return randomTable(seedOf(run, i), players, {MindKind::sensible}); };
+  };
+  return {playGames(data, known, games, threads, tableOf(seed, 4)),
+          playGames(data, known, games, threads, tableOf(seed + kAloneSeed, 1))};
+}
+
+Score scoreOf(const DataFiles& data, const Sample& sample) {
+  const Knowledge known(data);
+  const Measures all = measure(sample.games);
+  const Tallies tallies = tally(sample.games);
+  const auto percent = [](double share) { return 100 * share; };
+  const double oneRound = percent(all.oneRound.value());
+  const double costless = percent(all.costless.value());
+  const double inTime = percent(all.inTime.value());
+  const double ended = percent(all.ended.value());
+  const double alone = percent(endedShare(sample.alone));
+  const double gambles = percent(all.gambles.value());
+  const double gamblesWon = percent(all.gamblesWon.value());
+  const double early = 2000.0 * tallies.earlyThrones / std::max(1, tallies.allTurns);
+  const double first =
+      percent(tallies.turns[0].fights > 0 ? 1.0 * tallies.turns[0].deaths / tallies.turns[0].fights : 0);
+  Score score;
+  score.terms = {{"one_round", oneRound, above(oneRound, 40, 10)},
+                 {"costless", costless, above(costless, 45, 10)},
+                 deathTerm(all),
+                 {"in_time", inTime, under(inTime, 88, 8)},
+                 {"median", static_cast<double>(all.median), outside(all.median, 22, 24, 2)},
+                 {"ended", ended, under(ended, 99, 3)},
+                 {"ended_alone", alone, under(alone, 85, 12)},
+                 {"busiest_zone", percent(all.busiest), above(percent(all.busiest), 18, 5)},
+                 rankTerm(known, all),
+                 {"gambles", gambles, under(gambles, 3, 3)},
+                 {"gambles_won", gamblesWon, outside(gamblesWon, 70, 85, 10)},
+                 classTerm(sample.games),
+                 purchaseTerm(tallies),
+                 harmlessTerm(known, all),
+                 {"early_thrones", early, above(early, 1, 1)},
+                 {"first_deaths", first, above(first, 5, 2)}};
+  return score;
+}
+
+}  // namespace brolgan::simulation

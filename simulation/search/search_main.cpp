@@ -1,0 +1,181 @@
+// search: looks for numbers of the data files that bring the games nearer to the aims. It can be
+// stopped at any time and goes on where it was when it is started again with the same folder.
+//
+//   search run      throws, plays, ranks; one line a generation into FOLDER/search.csv
+//   search try      plays one shape, told as NAME=VALUE, and prints its score
+//   search write    writes the data files of a shape into FOLDER
+#include <algorithm>
+#include <cstdlib>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <stdexcept>
+
+#include "simulation/options.h"
+#include "simulation/search/cma_es.h"
+#include "simulation/search/score.h"
+#include "simulation/search/shape.h"
+
+using namespace brolgan::simulation;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kUsage =
+    "search run|try|write [NAME=VALUE...] [--games N] [--generations G] [--seed S] [--threads T]\n"
+    "       [--data FOLDER] [--results FOLDER]\n";
+// The games that confirm a mean are none of those that chose it.
+constexpr std::uint64_t kHeldOut = 0x100000;
+
+struct Setup {
+  DataFiles data;
+  fs::path results;
+  int games = 40;
+  int generations = 1000;
+  int threads = 1;
+  std::uint64_t seed = 1;
+};
+
+Shape shapeFrom(const std::vector<std::string>& words) {
+  Shape shape{};
+  for (std::size_t i = 1; i < words.size(); ++i) {
+    const std::size_t equals = words[i].find('=');
+    if (equals == std::string::npos) throw std::invalid_argument(kUsage);
+    shape[static_cast<std::size_t>(dialNamed(words[i].substr(0, equals)))] = std::stod(words[i].substr(equals + 1));
+  }
+  return shape;
+}
+
+Shape shapeAt(const std::vector<double>& point) {
+  Shape shape{};
+  for (std::size_t i = 0; i < kDials; ++i) {
+    const Dial& dial = kDialTable[i];
+    shape[i] = std::clamp(point[i] * dial.step, dial.least, dial.most);
+  }
+  return shape;
+}
+
+std::vector<double> pointOf(const Shape& shape) {
+  std::vector<double> point;
+  for (std::size_t i = 0; i < kDials; ++i) point.push_back(shape[i] / kDialTable[i].step);
+  return point;
+}
+
+void print(const Score& score) {
+  for (const Term& term : score.terms) {
+    std::cout << term.name << '\t' << term.found << "\tmiss " << term.miss << '\n';
+  }
+  std::cout << "sum\t\tmiss " << score.sum() << std::endl;
+}
+
+// What a zone was like: how often it was chosen, and what became of those who went there.
+void printZones(const Measures& all) {
+  std::cout << "zone\tof turns\tdeaths\tone round\tlost\n";
+  for (const Danger& zone : all.zones) {
+    std::cout << &zone - all.zones.data() + 1 << '\t' << 100 * zone.deaths.whole / all.oneRound.whole << '\t'
+              << 100 * zone.deaths.value() << '\t' << 100 * zone.oneRound.value() << '\t' << zone.lost.value() << '\n';
+  }
+}
+
+void tryOut(const Setup& setup, const Shape& shape) {
+  const DataFiles data = shaped(setup.data, shape);
+  const Sample sample = playSample(data, setup.games, setup.threads, setup.seed);
+  print(scoreOf(data, sample));
+  printZones(measure(sample.games));
+}
+
+Score play(const Setup& setup, const Shape& shape, std::uint64_t seed) {
+  const DataFiles data = shaped(setup.data, shape);
+  return scoreOf(data, playSample(data, setup.games, setup.threads, seed));
+}
+
+void store(const fs::path& path, const std::string& bytes) {
+  std::ofstream file(path, std::ios::binary);
+  file << bytes;
+  if (!file.flush()) throw std::runtime_error("cannot write " + path.string());
+}
+
+void writeFiles(const DataFiles& data, const fs::path& folder) {
+  fs::create_directories(folder);
+  store(folder / "bron.cfg", data.weapons);
+  store(folder / "monsters.cfg", data.monsters);
+}
+
+CmaEs begin(const fs::path& state, const Shape& start, std::uint64_t seed) {
+  std::ifstream in(state);
+  if (in) return CmaEs(in);
+  constexpr double kFirstStep = 0.8;
+  return CmaEs(pointOf(start), kFirstStep, seed);
+}
+
+// The log: what the generation's points were worth, what its mean is worth on games held out, and the
+// shape of that mean.
+void note(const fs::path& log, const CmaEs& search, const std::vector<double>& values, double confirmed) {
+  const bool fresh = !fs::exists(log);
+  std::ofstream out(log, std::ios::app);
+  if (fresh) {
+    out << "generation,best,worst,held_out,step";
+    for (const Dial& dial : kDialTable) out << ',' << dial.name;
+    out << '\n';
+  }
+  const auto [best, worst] = std::minmax_element(values.begin(), values.end());
+  out << search.generation() << ',' << *best << ',' << *worst << ',' << confirmed << ',' << search.step();
+  for (const double value : shapeAt(search.mean())) out << ',' << value;
+  out << '\n';
+}
+
+void run(const Setup& setup, const Shape& start) {
+  fs::create_directories(setup.results);
+  const fs::path state = setup.results / "search.state";
+  CmaEs search = begin(state, start, setup.seed);
+  while (search.generation() < setup.generations) {
+    const auto points = search.ask();
+    // All points of a generation play the same games, the next generation plays others.
+    const std::uint64_t seed = setup.seed + static_cast<std::uint64_t>(search.generation()) + 1;
+    std::vector<double> values;
+    for (const auto& point : points) {
+      values.push_back(play(setup, shapeAt(point), seed).sum());
+      std::cerr << "generation " << search.generation() + 1 << ": " << values.size() << "/" << points.size()
+                << " score " << values.back() << std::endl;
+    }
+    search.tell(points, values);
+    note(setup.results / "search.csv", search, values, play(setup, shapeAt(search.mean()), seed + kHeldOut).sum());
+    std::ofstream out(state);
+    search.save(out);
+  }
+}
+
+void act(const Options& options) {
+  if (options.words.empty()) throw std::invalid_argument(kUsage);
+  Setup setup;
+  setup.data = loadData(options.text("--data", "."));
+  setup.results = options.text("--results", ".");
+  setup.games = options.number("--games", setup.games);
+  setup.generations = options.number("--generations", setup.generations);
+  setup.threads = options.number("--threads", 1);
+  setup.seed = static_cast<std::uint64_t>(options.number("--seed", 1));
+  const Shape shape = shapeFrom(options.words);
+  if (options.words[0] == "run") {
+    run(setup, shape);
+  } else if (options.words[0] == "try") {
+    tryOut(setup, shape);
+  } else if (options.words[0] == "write") {
+    writeFiles(shaped(setup.data, shape), setup.results);
+  } else {
+    throw std::invalid_argument(kUsage);
+  }
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  try {
+    act(Options(count, arguments, {"--games", "--generations", "--seed", "--threads", "--data", "--results"}));
+  } catch (const std::exception& error) {
+    std::cerr << error.what() << "\n";
+    return EXIT_FAILURE;
+  }
+  return EXIT_SUCCESS;
+}

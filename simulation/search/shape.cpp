@@ -1,0 +1,196 @@
+#include "simulation/search/shape.h"
+
+#include <algorithm>
+#include <cmath>
+#include <span>
+#include <sstream>
+#include <stdexcept>
+
+#include "simulation/knowledge/knowledge.h"
+
+namespace brolgan::simulation {
+
+namespace {
+
+// The places of the dials in their table.
+constexpr std::size_t kLife = 0;
+constexpr std::size_t kAttack = 5;
+constexpr std::size_t kDice = 10;
+constexpr std::size_t kArmourDial = 13;
+constexpr std::size_t kGroupSize = 16;
+constexpr std::size_t kGroupAttack = 17;
+constexpr std::size_t kGroupLife = 18;
+constexpr std::size_t kCourtLife = 19;
+constexpr std::size_t kCourtAttack = 20;
+constexpr std::size_t kKingLife = 21;
+constexpr std::size_t kKingPlace = 22;
+constexpr std::size_t kDearDamage = 23;
+constexpr std::size_t kSpeedDial = 24;
+
+constexpr int kLinesAMonster = 10;
+constexpr int kLinesAWeapon = 9;
+constexpr int kUntouched = 3;
+constexpr int kCourt = 41;  // the first of the king's court, counted from 0
+constexpr int kKing = kMonsters - 1;
+constexpr int kLargestGroup = 12;
+constexpr int kMostFaces = 31;
+constexpr int kCheap = 4;  // the price up to which a weapon is not dear
+
+constexpr std::array<double, 5> kFiveBands = {3, 12, 22, 31, 40};
+constexpr std::array<double, 3> kThreeBands = {12, 26, 40};
+
+// The value at a place between bands, straight from one to the next.
+double between(std::span<const double> bands, const double* values, double place) {
+  if (place <= bands.front()) return values[0];
+  for (std::size_t i = 1; i < bands.size(); ++i) {
+    if (place > bands[i]) continue;
+    const double share = (place - bands[i - 1]) / (bands[i] - bands[i - 1]);
+    return values[i - 1] + share * (values[i] - values[i - 1]);
+  }
+  return values[bands.size() - 1];
+}
+
+std::vector<std::string> linesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) {
+    if (line.ends_with('\r')) line.pop_back();
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+std::string textOf(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += line + "\r\n";
+  return text;
+}
+
+int whole(double value) { return static_cast<int>(std::lround(value)); }
+
+// One monster's numbers, in the order of its lines.
+struct Numbers {
+  int count, speed, low, high, dice, plus, life, armour;
+
+  [[nodiscard]] double mean() const { return (low + high) / 2.0 * dice; }
+  [[nodiscard]] double reward() const { return (mean() + armour) / 10 * ((count - 1) * 0.33 + 1) + 1; }
+};
+
+// Dice with an odd number of faces, one if that will do, whose mean is that.
+void throwMean(Numbers& monster, int mean) {
+  monster.low = 1;
+  for (monster.dice = 1;; ++monster.dice) {
+    if (mean % monster.dice != 0) continue;
+    monster.high = 2 * mean / monster.dice - 1;
+    if (monster.high <= kMostFaces) return;
+  }
+}
+
+// How far a reward lies from just above a half, where rounding helps those who are paid once.
+double offHalf(double reward) {
+  constexpr double kAbove = 0.58;
+  const double part = reward - std::floor(reward);
+  return std::min(std::abs(part - kAbove), std::abs(part - kAbove + 1));
+}
+
+// The dice throw near what was asked, the addition makes up for the rest of the attack.
+void giveAttack(Numbers& monster, double total, double dice) {
+  constexpr int kReach = 2;
+  Numbers best = monster;
+  double least = 10;
+  for (int shift = -kReach; shift <= kReach; ++shift) {
+    Numbers tried = monster;
+    const int mean = std::clamp(whole(dice) + shift, 1, std::max(1, whole(total)));
+    throwMean(tried, mean);
+    tried.plus = std::max(0, whole(total) - mean);
+    const double off = offHalf(tried.reward()) + 0.01 * std::abs(shift) + 0.02 * (tried.dice - 1);
+    if (off >= least) continue;
+    least = off;
+    best = tried;
+  }
+  monster = best;
+}
+
+Numbers turned(Numbers monster, int place, const Shape& shape) {
+  const bool group = monster.count > 1;
+  if (place >= kCourt) {
+    const bool king = place == kKing;
+    monster.life = std::max(1, whole(monster.life * std::exp(shape[king ? kKingLife : kCourtLife])));
+    const double total = monster.mean() + monster.plus + shape[kCourtAttack];
+    monster.plus = std::max(0, whole(total - monster.mean()));
+    return monster;
+  }
+  const double grown = between(kFiveBands, &shape[kLife], place) + (group ? shape[kGroupLife] : 0);
+  monster.life = std::max(1, whole(monster.life * std::exp(grown)));
+  monster.speed = std::max(1, whole(monster.speed * std::exp(shape[kSpeedDial])));
+  if (group) monster.count = std::clamp(whole(monster.count * std::exp(shape[kGroupSize])), 2, kLargestGroup);
+  monster.armour = std::max(0, whole(monster.armour + between(kThreeBands, &shape[kArmourDial], place)));
+  const double more = between(kFiveBands, &shape[kAttack], place) + (group ? shape[kGroupAttack] : 0);
+  const double total = std::max(1.0, monster.mean() + monster.plus + more);
+  giveAttack(monster, total, monster.mean() + between(kThreeBands, &shape[kDice], place));
+  return monster;
+}
+
+Numbers numbersOf(const std::vector<std::string>& lines, std::size_t first) {
+  const auto at = [&](std::size_t i) { return std::stoi(lines[first + i]); };
+  return {at(0), at(3), at(4), at(5), at(6), at(7), at(8), at(9)};
+}
+
+void write(std::vector<std::string>& lines, std::size_t first, const Numbers& monster) {
+  lines[first] = std::to_string(monster.count);
+  const std::array values = {monster.speed, monster.low,  monster.high,  monster.dice,
+                             monster.plus,  monster.life, monster.armour};
+  for (std::size_t i = 0; i < values.size(); ++i) lines[first + 3 + i] = std::to_string(values[i]);
+}
+
+std::string shapedMonsters(const std::string& text, const Shape& shape) {
+  auto lines = linesOf(text);
+  for (int place = kUntouched; place < kMonsters; ++place) {
+    const auto first = static_cast<std::size_t>(1 + place * kLinesAMonster);
+    write(lines, first, turned(numbersOf(lines, first), place, shape));
+  }
+  // The king changes places with one of his court.
+  const int place = kKing - std::clamp(whole(shape[kKingPlace]), 0, 2);
+  const auto king = lines.begin() + 1 + kKing * kLinesAMonster;
+  if (place != kKing) std::swap_ranges(king, king + kLinesAMonster, lines.begin() + 1 + place * kLinesAMonster);
+  return textOf(lines);
+}
+
+std::string shapedWeapons(const std::string& text, const Shape& shape) {
+  auto lines = linesOf(text);
+  for (std::size_t weapon = 0; weapon < kWeapons; ++weapon) {
+    const std::size_t first = 1 + weapon * kLinesAWeapon + (weapon >= kMelees ? 1 : 0);
+    const int price = std::stoi(lines[first + 8]);
+    if (price <= kCheap) continue;
+    std::string& plus = lines[first + 5];
+    plus = std::to_string(std::max(0, whole(std::stoi(plus) + shape[kDearDamage] * (price - kCheap) / 6)));
+  }
+  return textOf(lines);
+}
+
+}  // namespace
+
+const std::array<Dial, kDials> kDialTable = {{
+    {"life_4", 0.15, -0.3, 1.0},     {"life_13", 0.15, -0.3, 1.0},    {"life_23", 0.15, -0.3, 1.0},
+    {"life_32", 0.15, -0.3, 1.0},    {"life_41", 0.15, -0.3, 1.0},    {"attack_4", 0.7, -3, 3},
+    {"attack_13", 0.7, -4, 4},       {"attack_23", 0.7, -5, 5},       {"attack_32", 0.7, -6, 6},
+    {"attack_41", 0.7, -8, 8},       {"dice_13", 1.0, -3, 8},         {"dice_27", 1.0, -3, 8},
+    {"dice_41", 1.0, -3, 8},         {"armour_13", 0.7, -4, 3},       {"armour_27", 0.7, -5, 4},
+    {"armour_41", 0.7, -6, 5},       {"group_size", 0.12, -0.7, 0.5}, {"group_attack", 0.5, -3, 3},
+    {"group_life", 0.15, -0.5, 1.0}, {"court_life", 0.12, -0.8, 0.4}, {"court_attack", 1.0, -12, 4},
+    {"king_life", 0.12, -0.5, 0.6},  {"king_place", 0.4, 0, 2},       {"dear_damage", 1.0, -3, 8},
+    {"speed", 0.15, -0.4, 0.7},
+}};
+
+DataFiles shaped(const DataFiles& data, const Shape& shape) {
+  return {shapedWeapons(data.weapons, shape), shapedMonsters(data.monsters, shape)};
+}
+
+int dialNamed(const std::string& name) {
+  for (int i = 0; i < kDials; ++i) {
+    if (name == kDialTable[static_cast<std::size_t>(i)].name) return i;
+  }
+  throw std::out_of_range("no dial " + name);
+}
+
+}  // namespace brolgan::simulation
