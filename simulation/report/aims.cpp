@@ -43,7 +43,7 @@ Aim classAim(const Study& study) {
 
 Aim rivalryAim(const Rivalry& rivalry) {
   const double ratio = rivalry.others > 0 ? static_cast<double>(rivalry.sensible) / rivalry.others : rivalry.sensible;
-  return {"Rozsądny przeciw naiwnemu (zwycięstwa przy wspólnym stole)", "≥ 2 : 1",
+  return {"Rozsądny przeciw nowicjuszowi (zwycięstwa przy wspólnym stole)", "≥ 2 : 1",
           std::to_string(rivalry.sensible) + " : " + std::to_string(rivalry.others), ratio >= 2};
 }
 
