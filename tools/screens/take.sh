@@ -3,20 +3,16 @@
 # with SCALE 2 those of creation and fight into docs/screens/200, at twice that and 200 %.
 set -eu
 cd "$(dirname "$0")/../.."
+. tools/setup/display.sh
 scale=${1:-1}
 cmake --preset release >/dev/null && cmake --build build/release --target brolgan_screens brolgan_assets >/dev/null
 target=$PWD/docs/screens
 [ "$scale" = 1 ] || target=$PWD/docs/screens/200
 play=$(mktemp -d)
-trap 'rm -rf "$play"; kill $server 2>/dev/null || true' EXIT
+trap 'rm -rf "$play"; stop_display' EXIT INT TERM
 cp build/release/gra/*.jpg build/release/gra/*.png build/release/gra/*.cfg "$play"
-number=$(mktemp)
-Xvfb -displayfd 3 -screen 0 $((1366 * scale))x$((768 * scale))x24 -nolisten tcp 3>"$number" >/dev/null 2>&1 &
-server=$!
-while [ ! -s "$number" ]; do sleep 0.1; done
-export DISPLAY=:$(cat "$number") QT_SCALE_FACTOR="$scale"
-openbox >/dev/null 2>&1 &
-sleep 0.5
+start_display $((1366 * scale)) $((768 * scale)) env
+export QT_SCALE_FACTOR="$scale"
 binary=$PWD/build/release/tools/screens/brolgan_screens
 hero=$PWD/tools/screens/hero.boh
 mkdir "$play/taken"
