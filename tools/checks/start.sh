@@ -2,11 +2,9 @@
 # The game as it is played starts, shows its first window, and ends when the title is closed.
 set -eu
 mkdir -p build
-cmake --preset release >build/release.log 2>&1 && cmake --build --preset release >>build/release.log 2>&1 || {
-  tail -n 60 build/release.log
-  exit 1
-}
-tools/setup/run_virtual.sh build/release/gra >build/start.log 2>&1 &
+. tools/checks/environment.sh
+build_played all
+tools/setup/run_virtual.sh build/played/gra >build/start.log 2>&1 &
 running=$!
 waited=0
 until grep -q 'first screenshot' build/start.log; do
@@ -18,5 +16,5 @@ DISPLAY=$(sed -n 's/.*virtual one (\(.*\))\..*/\1/p' build/start.log)
 export DISPLAY
 wmctrl -F -c 'Brolgan XP version'
 wait $running
-test -s build/release/gra/pierwszy-ekran.png
+test -s build/played/gra/pierwszy-ekran.png
 echo "the game starts and ends"
