@@ -28,7 +28,7 @@ double reward(std::string_view klasa, Integer groupSize, const Kostka& attack, I
   constexpr double kAdventurersShare = 1.45;
   constexpr double kGamblersShare = 3;
   const double g = (groupSize - 1).value() * kEachFurtherMonster + 1;
-  const double average = (attack.kmin + attack.kmax).value() / 2.0;
+  const double average = (static_cast<double>(attack.kmin.value()) + attack.kmax.value()) / 2;
   const double p = (average * attack.kile.value() + armour.value()) / 10 * g + 1;
   if (isClass(klasa, kAdventurer)) return round(p * kAdventurersShare);
   if (isClass(klasa, kGambler)) return p * kGamblersShare;
