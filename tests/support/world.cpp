@@ -158,11 +158,7 @@ std::string World::line(const std::string& name, int number) const {
   return lines(name).at(static_cast<std::size_t>(number - 1));
 }
 
-void World::writeHero(const std::string& name, const Bohater& hero) {
-  ItemWriter out(files, name);
-  Player_Save(out, hero);
-  out.close();
-}
+void World::writeHero(const std::string& name, const Bohater& hero) { Player_Save({files, name}, hero); }
 
 Bohater World::hero(const std::string& name) { return Player_Load(runtime.OpenForInput(name)); }
 
