@@ -31,9 +31,9 @@ class VariantsTest : public ::testing::Test {
     for (const std::string& name : names) std::ofstream(path(name)) << name;
   }
   // The names of the files that come when a sound is asked for so many times.
-  std::vector<std::string> asked(const std::string& name, int times) {
-    std::vector<std::string> names;
-    for (int i = 0; i < times; ++i) names.push_back(fs::path(variants.next(path(name))).lexically_relative(folder));
+  std::vector<std::string> asked(const std::string& name, std::size_t times) {
+    std::vector<std::string> names(times);
+    for (std::string& next : names) next = fs::path(variants.next(path(name))).lexically_relative(folder);
     return names;
   }
 
