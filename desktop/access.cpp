@@ -1,7 +1,9 @@
 #include "desktop/access.h"
 
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QComboBox>
 #include <QLabel>
 
 #include "desktop/text.h"
@@ -51,12 +53,37 @@ class Notice : public QAccessibleWidget {
   }
 };
 
+// A drop-down list that is called by its name and its value; by itself it would tell the value alone.
+class NamedChoice : public QAccessibleWidget {
+ public:
+  explicit NamedChoice(QComboBox* box) : QAccessibleWidget(box, QAccessible::ComboBox) {}
+
+  [[nodiscard]] int childCount() const override { return 1; }
+  [[nodiscard]] QAccessibleInterface* child(int index) const override {
+    return index == 0 ? QAccessible::queryAccessibleInterface(box().view()) : nullptr;
+  }
+  [[nodiscard]] int indexOfChild(const QAccessibleInterface* one) const override {
+    return one != nullptr && one->object() == box().view() ? 0 : -1;
+  }
+  [[nodiscard]] QString text(QAccessible::Text which) const override {
+    return which == QAccessible::Value ? box().currentText() : QAccessibleWidget::text(which);
+  }
+  [[nodiscard]] QStringList actionNames() const override { return {showMenuAction()}; }
+  void doAction(const QString& action) override {
+    if (action == showMenuAction() && box().isEnabled()) box().showPopup();
+  }
+
+ private:
+  [[nodiscard]] QComboBox& box() const { return *static_cast<QComboBox*>(widget()); }
+};
+
 QAccessibleInterface* interfaceOf(const QString&, QObject* object) {
   auto* const clicked = dynamic_cast<ClickLabel*>(object);
   if (clicked != nullptr && clicked->isCheckable()) return new CheckableLabel(clicked);
   auto* const label = qobject_cast<QLabel*>(object);
   if (label != nullptr && label->property(kIsNotice).toBool()) return new Notice(label);
-  return nullptr;
+  auto* const box = qobject_cast<QComboBox*>(object);
+  return box == nullptr ? nullptr : new NamedChoice(box);
 }
 
 void tellChecked(ClickLabel& label, bool checked) {

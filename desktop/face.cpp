@@ -197,6 +197,7 @@ void Face::use(const std::string& name, std::size_t index, const std::function<v
   if (target == nullptr) return;
   const std::string used = entryOf(*target, index).fullName();
   const std::string focused = window(name)->focused();
+  window(name)->expectNews(used);
   act([&] { doing(*target); });
   if (form(name) == target) follow(name, used, focused);
 }

@@ -124,6 +124,13 @@ void FormWindow::tellAll() {
   }
 }
 
+void FormWindow::expectNews(const std::string& used) {
+  const auto& entries = form_->controls().entries();
+  for (std::size_t i = 0; i < entries.size(); ++i) {
+    if (isToldAnew(name_, used, entries[i])) announced_.erase(inOrder_[i]);
+  }
+}
+
 void FormWindow::leaveScreen() {
   forgetMouse();
   hide();

@@ -42,6 +42,8 @@ class FormWindow : public QWidget {
   void leaveScreen();
   // Begins to decode the pictures that are drawn next.
   void preparePictures();
+  // Has reports announced again, the same words included, that the use of a control makes news.
+  void expectNews(const std::string& used);
   // Puts the keyboard on a control, unless it is there; nothing for an empty name.
   void focusOn(const std::string& control);
   // The control that the keyboard stands on, empty when there is none.

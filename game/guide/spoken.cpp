@@ -191,4 +191,11 @@ bool isAnnounced(const std::string& screen, const ControlEntry& entry) {
   return false;
 }
 
+bool isToldAnew(const std::string& screen, const std::string& used, const ControlEntry& entry) {
+  if (screen != screens::kFight) return false;
+  const bool dealt = entry.name == "IleZad" || entry.name == "OpisZad";
+  const bool taken = entry.name == "IleDMG" || entry.name == "OpisDMG";
+  return (used == "Atak" && dealt) || (used == "NastTura" && taken);
+}
+
 }  // namespace brolgan

@@ -19,5 +19,8 @@ bool isChecked(const ControlEntry& entry);
 
 // Whether a change of the control is to be announced as it happens: blows, deaths, warnings.
 bool isAnnounced(const std::string& screen, const ControlEntry& entry);
+// Whether what the control says is news after that one was used, even when the words are the same as
+// before: a blow of the same strength falls again.
+bool isToldAnew(const std::string& screen, const std::string& used, const ControlEntry& entry);
 
 }  // namespace brolgan

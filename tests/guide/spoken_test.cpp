@@ -87,6 +87,16 @@ TEST_F(Spoken, GoodsBoughtByTheirNameAreCheckable) {
   EXPECT_FALSE(isCheckable("CTsklep", table.find("stat1(0)")));
 }
 
+TEST_F(Spoken, ABlowOfTheSameStrengthIsNewsEachTime) {
+  setFight(world, richHero());
+  world.runtime.Show("Fight");
+  const auto& table = world.form("Fight").controls();
+  EXPECT_TRUE(isToldAnew("Fight", "Atak", table.find("IleZad")));
+  EXPECT_TRUE(isToldAnew("Fight", "NastTura", table.find("IleDMG")));
+  EXPECT_FALSE(isToldAnew("Fight", "Atak", table.find("IleDMG")));
+  EXPECT_FALSE(isToldAnew("Fight", "Rzuc", table.find("IleZad")));
+}
+
 TEST_F(Spoken, BlowsAndDeathsAreAnnounced) {
   setFight(world, richHero());
   world.runtime.Show("Fight");
