@@ -214,8 +214,8 @@ void CTmhero::listControls(ControlTable& table) {
   table.addMember("Label4", 0, Label4[0], &fstat);
   listLadders(table);
   for (int i = 0; i < kStatistics; ++i) {
-    table.addMember("PLUS", i, PLUS[i], &fstat);
     table.addMember("MINUS", i, MINUS[i], &fstat);
+    table.addMember("PLUS", i, PLUS[i], &fstat);
   }
   listMelee(table);
   table.add("Sprzedajww", Sprzedajww, &fbron);
@@ -228,8 +228,8 @@ void CTmhero::listControls(ControlTable& table) {
   table.add("ammo", ammo, &Frame4);
   table.add("wyp", wyp, &Frame4);
   for (int i = kStatistics; i < static_cast<int>(PLUS.size()); ++i) {
-    table.addMember("PLUS", i, PLUS[i], &Frame4);
     table.addMember("MINUS", i, MINUS[i], &Frame4);
+    table.addMember("PLUS", i, PLUS[i], &Frame4);
   }
   table.add("Spec", Spec, &Frame4);
   table.add("Speccena", Speccena, &Frame4);

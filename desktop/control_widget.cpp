@@ -76,7 +76,7 @@ struct Maker {
   }
 
   QWidget* operator()(const ListBox*) const {
-    auto* widget = new QListWidget(parent);
+    auto* widget = new RowList(parent);
     const auto select = gestures.select;
     QObject::connect(widget, &QListWidget::itemSelectionChanged, widget, [widget, select] {
       if (!widget->selectedItems().isEmpty()) select(widget->currentRow());
@@ -158,7 +158,10 @@ struct Mirror {
   void operator()(const TextBox* box) const {
     const QString text = toQt(box->Text);
     if (auto* notes = qobject_cast<QPlainTextEdit*>(&widget)) {
-      if (notes->toPlainText() != text) notes->setPlainText(text);
+      if (notes->toPlainText() != text) {
+        notes->setPlainText(text);
+        notes->moveCursor(QTextCursor::End);  // A person's words go behind those of the game.
+      }
       return;
     }
     auto& shown = static_cast<QLineEdit&>(widget);

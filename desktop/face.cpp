@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QTimer>
 
+#include "desktop/access.h"
 #include "desktop/picture_store.h"
 #include "desktop/text.h"
 #include "flow/stage/hands.h"
@@ -27,7 +28,7 @@ const ControlEntry& entryOf(Form& form, std::size_t index) { return form.control
 
 }  // namespace
 
-Face::Face(Runtime& runtime, PictureStore& pictures) : runtime_(runtime), pictures_(pictures) {}
+Face::Face(Runtime& runtime, PictureStore& pictures) : runtime_(runtime), pictures_(pictures) { installAccess(); }
 
 Face::~Face() = default;
 
@@ -128,7 +129,7 @@ void Face::show(const std::string& name, Form& shown) {
   window.preparePictures();
   window.raise();
   window.activateWindow();
-  window.focusFirst();
+  window.focusOn(hands_[name].begin(name, shown));
 }
 
 void Face::rememberPlace(const FormWindow& window) { lastPlace_ = window.geometry().topLeft(); }
@@ -164,12 +165,10 @@ Form* Face::formInSight(const std::string& name) const {
 FormWindow::Events Face::events() {
   FormWindow::Events events;
   events.click = [this](const std::string& name, std::size_t index) {
-    Form* const target = formInSight(name);
-    if (target != nullptr) act([&] { click(runtime_, *target, entryOf(*target, index)); });
+    use(name, index, [this, index](Form& target) { click(runtime_, target, entryOf(target, index)); });
   };
   events.select = [this](const std::string& name, std::size_t index, int row) {
-    Form* const target = formInSight(name);
-    if (target != nullptr) act([&] { select(runtime_, entryOf(*target, index), row); });
+    use(name, index, [this, index, row](Form& target) { select(runtime_, entryOf(target, index), row); });
   };
   events.type = [this](const std::string& name, std::size_t index, const QString& text) {
     Form* const target = formInSight(name);
@@ -178,7 +177,34 @@ FormWindow::Events Face::events() {
   events.close = [this](const std::string& name) {
     if (formInSight(name) != nullptr) act([&] { closeWindow(runtime_, name); });
   };
+  events.escape = [this](const std::string& name) {
+    Form* const target = formInSight(name);
+    const std::string control = target == nullptr ? std::string() : escapeControl(name, *target);
+    if (control.empty()) return;
+    const auto& entries = target->controls().entries();
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+      if (entries[i].fullName() == control) {
+        use(name, i, [this, i](Form& form) { click(runtime_, form, entryOf(form, i)); });
+        return;
+      }
+    }
+  };
   return events;
+}
+
+void Face::use(const std::string& name, std::size_t index, const std::function<void(Form&)>& doing) {
+  Form* const target = formInSight(name);
+  if (target == nullptr) return;
+  const std::string used = entryOf(*target, index).fullName();
+  const std::string focused = window(name)->focused();
+  window(name)->expectNews(used);
+  act([&] { doing(*target); });
+  if (form(name) == target) follow(name, used, focused);
+}
+
+void Face::follow(const std::string& name, const std::string& used, const std::string& focused) {
+  Form* const seen = formInSight(name);
+  if (seen != nullptr) window(name)->focusOn(hands_[name].after(name, *seen, used, focused));
 }
 
 }  // namespace brolgan::desktop

@@ -12,6 +12,7 @@
 
 #include "desktop/form_window.h"
 #include "flow/stage/runtime.h"
+#include "game/guide/next_hand.h"
 
 namespace brolgan::desktop {
 
@@ -43,12 +44,16 @@ class Face : public QObject {
   void place(const std::string& name, FormWindow& window);
   void rememberPlace(const FormWindow& window);
   FormWindow::Events events();
+  // Does something with a control and puts the keyboard where the hand is next.
+  void use(const std::string& name, std::size_t index, const std::function<void(Form&)>& doing);
+  void follow(const std::string& name, const std::string& used, const std::string& focused);
   [[nodiscard]] Form* formInSight(const std::string& name) const;
   Form* form(const std::string& name) const { return runtime_.find(name); }
 
   Runtime& runtime_;
   PictureStore& pictures_;
   std::map<std::string, std::unique_ptr<FormWindow>> windows_;
+  std::map<std::string, NextHand> hands_;
   std::optional<QPoint> lastPlace_;
   bool over_ = false;
 };

@@ -25,6 +25,7 @@ class FormWindow : public QWidget {
     std::function<void(const std::string& form, std::size_t entry, int row)> select;
     std::function<void(const std::string& form, std::size_t entry, const QString& text)> type;
     std::function<void(const std::string& form)> close;
+    std::function<void(const std::string& form)> escape;
   };
 
   FormWindow(std::string name, Form& form, PictureStore& pictures, const Events& events);
@@ -41,8 +42,12 @@ class FormWindow : public QWidget {
   void leaveScreen();
   // Begins to decode the pictures that are drawn next.
   void preparePictures();
-  // Puts the keyboard where a person starts.
-  void focusFirst();
+  // Has reports announced again, the same words included, that the use of a control makes news.
+  void expectNews(const std::string& used);
+  // Puts the keyboard on a control, unless it is there; nothing for an empty name.
+  void focusOn(const std::string& control);
+  // The control that the keyboard stands on, empty when there is none.
+  [[nodiscard]] std::string focused() const;
 
   // For the layouts: the widget of a control, by its full name. The control must exist.
   [[nodiscard]] QWidget& at(const std::string& fullName) const;
@@ -54,21 +59,27 @@ class FormWindow : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
   [[nodiscard]] QSize pixels() const { return (QSizeF(size()) * devicePixelRatioF()).toSize(); }
   void makeWidgets(const Events& events);
   void orderTabs();
+  void addKeys(const Events& events);
+  void reach(std::size_t index, const Events& events);
+  void tellAll();
+  void forgetMouse();
   [[nodiscard]] QWidget* parentOf(const ControlEntry& entry);
 
   std::string name_;
   Form* form_;
   PictureStore& pictures_;
   std::function<void(const std::string&)> close_;
+  std::function<void(const std::string&)> escape_;
   std::map<std::string, QWidget*> widgets_;
-  std::map<std::string, QWidget*> frames_;
   std::vector<QWidget*> inOrder_;
+  std::map<QWidget*, QString> announced_;  // what each report said last, empty while it is not seen
   QString background_;
   QPixmap shownBackground_;  // at the window's size, kept while the window shows
 };

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/picture_store.h"
@@ -39,8 +40,15 @@ ClickLabel::ClickLabel(std::function<void()> click, QWidget* parent) : QLabel(pa
   setContentsMargins(6, 1, 6, 1);
 }
 
+void ClickLabel::setChecked(bool isChecked) {
+  isChecked_ = isChecked;
+  update();
+}
+
 void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) click_();
+  if (event->button() != Qt::LeftButton || !rect().contains(event->position().toPoint())) return;
+  click_();
+  repaint();  // The two clicks of a double click are seen both.
 }
 
 void ClickLabel::keyPressEvent(QKeyEvent* event) {
@@ -72,6 +80,20 @@ ClickEdit::ClickEdit(std::function<void()> click, QWidget* parent) : QLineEdit(p
 void ClickEdit::mouseReleaseEvent(QMouseEvent* event) {
   QLineEdit::mouseReleaseEvent(event);
   if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) click_();
+}
+
+void RowList::keyPressEvent(QKeyEvent* event) {
+  const auto moves = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_PageUp, Qt::Key_PageDown};
+  const bool isMove = std::find(moves.begin(), moves.end(), event->key()) != moves.end();
+  if (isMove && selectedItems().isEmpty() && count() > 0) {
+    setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
+  } else {
+    QListWidget::keyPressEvent(event);
+  }
+}
+
+QItemSelectionModel::SelectionFlags RowList::selectionCommand(const QModelIndex& index, const QEvent* event) const {
+  return index.isValid() ? QItemSelectionModel::ClearAndSelect : QListWidget::selectionCommand(index, event);
 }
 
 PictureWidget::PictureWidget(PictureStore& pictures, QWidget* parent) : QLabel(parent), pictures_(pictures) {}

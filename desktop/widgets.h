@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <functional>
 
 class QPainter;
@@ -17,6 +18,14 @@ class ClickLabel : public QLabel {
  public:
   ClickLabel(std::function<void()> click, QWidget* parent);
 
+  // Does what a click does.
+  void click() { click_(); }
+  // A label of something that is bought once, and whether it is owned.
+  void setCheckable() { isCheckable_ = true; }
+  [[nodiscard]] bool isCheckable() const { return isCheckable_; }
+  void setChecked(bool isChecked);
+  [[nodiscard]] bool isChecked() const { return isChecked_; }
+
  protected:
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -26,6 +35,8 @@ class ClickLabel : public QLabel {
   void drawPlate(QPainter& painter);
 
   std::function<void()> click_;
+  bool isCheckable_ = false;
+  bool isChecked_ = false;
 };
 
 // A text box that can also be clicked; the keyboard edits it without a click.
@@ -38,6 +49,18 @@ class ClickEdit : public QLineEdit {
 
  private:
   std::function<void()> click_;
+};
+
+// A list of which one row, once chosen, stays chosen: no key with a click takes the mark away. The first
+// arrow chooses the first row.
+class RowList : public QListWidget {
+ public:
+  using QListWidget::QListWidget;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                                     const QEvent* event) const override;
 };
 
 // Shows a picture file as large as fits, in the middle.

@@ -147,7 +147,7 @@ TEST(Fresh, TheShopForgetsItsSelectionTextsAndScroll) {
   EXPECT_EQ(stage.text("CTsklep", "BWnazwa"), "bron1");
   EXPECT_EQ(stage.text("CTsklep", "BWopis"), "opis można rzucać czary");
   EXPECT_EQ(list.verticalScrollBar()->value(), 0);
-  EXPECT_EQ(stage.focus("CTsklep"), "Heroshow");
+  EXPECT_EQ(stage.focus("CTsklep"), "PLUS(0)");
 }
 
 // The arrows start at the top of a list from which nothing has been chosen yet.
@@ -209,7 +209,7 @@ TEST(Fresh, PreparationForgetsItsNotesAndChoices) {
   EXPECT_EQ(stage.text("Prefight", "Moname"), "Zombi");
   EXPECT_FALSE(stage.isVisible("Prefight", "tabak"));
   EXPECT_FALSE(stage.get<QPlainTextEdit>("Prefight", "historia").document()->isUndoAvailable());
-  EXPECT_EQ(stage.focus("Prefight"), "Heroshow");
+  EXPECT_EQ(stage.focus("Prefight"), "Przedmioty");
 }
 
 TEST(Fresh, FightForgetsItsReportsAndDisabledButtons) {
@@ -228,7 +228,7 @@ TEST(Fresh, FightForgetsItsReportsAndDisabledButtons) {
   EXPECT_EQ(stage.text("Fight", "mana"), "0");
   EXPECT_FALSE(stage.isEnabled("Fight", "mana"));
   EXPECT_TRUE(stage.isEnabled("Fight", "Rzuc"));
-  EXPECT_EQ(stage.focus("Fight"), "Heroshow");
+  EXPECT_EQ(stage.focus("Fight"), "Bron");
 }
 
 }  // namespace
