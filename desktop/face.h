@@ -3,14 +3,13 @@
 #pragma once
 
 #include <QObject>
-#include <QPoint>
 #include <functional>
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 
 #include "desktop/form_window.h"
+#include "desktop/places.h"
 #include "flow/stage/runtime.h"
 
 namespace brolgan::desktop {
@@ -40,8 +39,9 @@ class Face : public QObject {
   void releaseGone();
   void showOpened();
   void show(const std::string& name, Form& shown);
-  void place(const std::string& name, FormWindow& window);
-  void rememberPlace(const FormWindow& window);
+  [[nodiscard]] const FormWindow* inTurn(const FormWindow* next) const;
+  [[nodiscard]] qreal unitOfNext() const;
+  void rescueWindows();
   FormWindow::Events events();
   [[nodiscard]] Form* formInSight(const std::string& name) const;
   Form* form(const std::string& name) const { return runtime_.find(name); }
@@ -49,7 +49,7 @@ class Face : public QObject {
   Runtime& runtime_;
   PictureStore& pictures_;
   std::map<std::string, std::unique_ptr<FormWindow>> windows_;
-  std::optional<QPoint> lastPlace_;
+  Places places_;
   bool over_ = false;
 };
 
