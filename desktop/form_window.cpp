@@ -40,6 +40,11 @@ class FormWindow::Page : public QWidget {
   }
   void forget() { shown_ = {}; }
 
+  // A page that scrolls is as large as at the least unit.
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    return QWidget::minimumSizeHint().expandedTo((QSizeF(window_.unit().size()) * Unit::kLeast).toSize());
+  }
+
  protected:
   void paintEvent(QPaintEvent*) override {
     if (window_.background().isEmpty()) return;

@@ -12,6 +12,8 @@ namespace brolgan::desktop {
 namespace {
 
 constexpr qreal kStep = 0.5;
+// Of a line of the smallest type, to its size.
+constexpr qreal kLineHeight = 1.5;
 constexpr qreal kPointsAnInch = 72;
 
 bool isFigure(QChar letter) { return letter >= '0' && letter <= '9'; }
@@ -114,7 +116,7 @@ QSize TextLabel::sizeHint() const {
 
 QSize TextLabel::minimumSizeHint() const {
   if (!keepsToRoom_) return isPlain() ? QLabel::minimumSizeHint() : sizeHint();
-  return {0, Unit::pixels(this, Unit::kSmallestText)};
+  return {0, qRound(kLineHeight * Unit::kSmallestText)};
 }
 
 void TextLabel::paintEvent(QPaintEvent* event) {

@@ -32,7 +32,7 @@ void addLadder(FormWindow& window, QGridLayout& grid, int row, int index) {
   int column = kLadderColumn;
   for (int step = 0; window.has(member(name.c_str(), step)); ++step) {
     QLabel& label = alignCentre(window.at<QLabel>(name, step));
-    window.unit().atLeast(label, isDice ? 46 : 23, 0);
+    window.unit().atLeast(label, isDice ? 52 : 23, 0);
     grid.addWidget(&label, row, column, 1, span);
     column += span;
   }

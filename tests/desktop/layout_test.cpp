@@ -256,8 +256,8 @@ TEST(Layout, TakesAClickAnywhereOnTheRowOfAnOption) {
 TEST(Layout, BreaksTheLinesOfToolTips) {
   Stage stage;
   openAll(stage);
-  QWidget& widget = stage.at("CTmhero", "Label5(0)");
-  ASSERT_GT(widget.toolTip().size(), 60);
+  QWidget& widget = stage.at("CTmhero", "Label5(2)");
+  ASSERT_GT(widget.toolTip().size(), 80);
   QHelpEvent event(QEvent::ToolTip, QPoint(5, 5), widget.mapToGlobal(QPoint(5, 5)));
   QApplication::sendEvent(&widget, &event);
   EXPECT_EQ(QToolTip::text().simplified(), widget.toolTip().simplified());
