@@ -10,6 +10,7 @@
 
 #include "desktop/picture_store.h"
 #include "desktop/text.h"
+#include "desktop/text_label.h"
 #include "desktop/theme.h"
 #include "desktop/widgets.h"
 
@@ -38,7 +39,8 @@ struct Maker {
   const Gestures& gestures;
 
   QWidget* operator()(const Label* label) const {
-    QLabel* widget = label->Click ? new ClickLabel(gestures.click, parent) : new QLabel(parent);
+    QLabel* widget =
+        label->Click ? static_cast<QLabel*>(new ClickLabel(gestures.click, parent)) : new TextLabel(parent);
     widget->setTextFormat(Qt::PlainText);
     widget->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     return widget;
@@ -55,7 +57,7 @@ struct Maker {
   }
 
   QWidget* operator()(const OptionButton*) const {
-    auto* widget = new QRadioButton(parent);
+    auto* widget = new OptionRow(parent);
     QObject::connect(widget, &QRadioButton::clicked, widget, gestures.click);
     return widget;
   }
@@ -124,18 +126,12 @@ void mirrorRows(const Rows& rows, QComboBox& widget) {
   if (!same || widget.currentIndex() != rows.ListIndex()) widget.setCurrentIndex(rows.ListIndex());
 }
 
-// A row tall enough for capitals with accents.
-void addRow(QListWidget& widget, const QString& text) {
-  auto* row = new QListWidgetItem(text, &widget);
-  row->setSizeHint({0, widget.fontMetrics().lineSpacing() + 4});
-}
-
 void mirrorRows(const Rows& rows, QListWidget& widget) {
   bool same = widget.count() == rows.ListCount();
   for (int i = 0; same && i < rows.ListCount(); ++i) same = widget.item(i)->text() == toQt(rows.List(i));
   if (!same) {
     widget.clear();
-    for (int i = 0; i < rows.ListCount(); ++i) addRow(widget, toQt(rows.List(i)));
+    for (int i = 0; i < rows.ListCount(); ++i) widget.addItem(toQt(rows.List(i)));
   }
   if (rows.ListIndex() < 0) {
     widget.clearSelection();
@@ -165,7 +161,11 @@ struct Mirror {
       return;
     }
     auto& shown = static_cast<QLineEdit&>(widget);
-    if (shown.text() != text) shown.setText(text);
+    if (shown.text() != text) {
+      shown.setText(text);
+      // What is only read shows its beginning.
+      if (box->Locked) shown.setCursorPosition(0);
+    }
     shown.setReadOnly(box->Locked);
     shown.setFocusPolicy(box->TabStop ? Qt::StrongFocus : Qt::ClickFocus);
   }

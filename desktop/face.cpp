@@ -17,18 +17,16 @@ namespace brolgan::desktop {
 
 namespace {
 
-// The title stays behind and the sheet beside; the other screens take each other's place.
-bool takesTurns(const std::string& name) { return name != "Brolgan" && name != "FHero"; }
-
-// About what a window manager adds above a window and on its other sides.
-constexpr int kFrameTop = 26;
-constexpr int kFrameSide = 4;
-
 const ControlEntry& entryOf(Form& form, std::size_t index) { return form.controls().entries()[index]; }
 
 }  // namespace
 
-Face::Face(Runtime& runtime, PictureStore& pictures) : runtime_(runtime), pictures_(pictures) { installAccess(); }
+Face::Face(Runtime& runtime, PictureStore& pictures) : runtime_(runtime), pictures_(pictures) {
+  installAccess();
+  // What Qt itself does with the windows of a screen that goes comes first.
+  connect(
+      qGuiApp, &QGuiApplication::screenRemoved, this, [this] { rescueWindows(); }, Qt::QueuedConnection);
+}
 
 Face::~Face() = default;
 
@@ -89,7 +87,7 @@ bool Face::makeWindow() {
   for (const std::string& name : runtime_.loaded()) {
     Form& opened = *form(name);
     if (!opened.Visible || windows_.contains(name)) continue;
-    windows_[name] = std::make_unique<FormWindow>(name, opened, pictures_, events());
+    windows_[name] = std::make_unique<FormWindow>(name, opened, pictures_, events(), unitOfNext());
     return true;
   }
   return false;
@@ -106,7 +104,7 @@ void Face::hideClosed() {
   for (const auto& [name, window] : windows_) {
     const Form* const shown = form(name);
     if (window->isVisible() && (shown == nullptr || !shown->Visible)) {
-      if (takesTurns(name)) rememberPlace(*window);
+      places_.remember(*window);
       window->leaveScreen();
     }
   }
@@ -124,7 +122,7 @@ void Face::show(const std::string& name, Form& shown) {
   const bool isFresh = window.form() != &shown;
   isFresh ? window.bind(shown) : window.mirrorAll();
   if (window.isVisible() && !isFresh) return;
-  if (!window.isVisible()) place(name, window);
+  if (!window.isVisible()) places_.place(window, inTurn(&window));
   window.show();
   window.preparePictures();
   window.raise();
@@ -132,25 +130,26 @@ void Face::show(const std::string& name, Form& shown) {
   window.focusOn(hands_[name].begin(name, shown));
 }
 
-void Face::rememberPlace(const FormWindow& window) { lastPlace_ = window.geometry().topLeft(); }
-
-// A screen appears where the last one stood. The title keeps to the top and the first screen to the
-// bottom, so that neither hides the other; the sheet opens at the right edge.
-void Face::place(const std::string& name, FormWindow& window) {
-  for (const auto& [other, open] : windows_) {
-    if (takesTurns(name) && takesTurns(other) && open->isVisible()) rememberPlace(*open);
+// The screen that is in turn: what opens takes its place, or stands beside it.
+const FormWindow* Face::inTurn(const FormWindow* next) const {
+  for (const auto& [name, window] : windows_) {
+    const Place place = window->layoutOf().place;
+    const bool isInTurn = place == Place::turn || place == Place::bottom;
+    if (isInTurn && window.get() != next && window->isVisible()) return window.get();
   }
-  const QRect screen = window.screen()->availableGeometry();
-  const QSize size = window.size().expandedTo(window.minimumSizeHint());
-  QPoint corner = screen.center() - QPoint(size.width() / 2, size.height() / 2);
-  if (name == "Brolgan") corner.setY(screen.top());
-  if (name == "Main") corner.setY(screen.bottom());
-  if (name == "FHero") corner = {screen.right() - size.width() - 24, screen.top() + 48};
-  if (takesTurns(name) && lastPlace_) corner = *lastPlace_;
-  const QRect room = screen.adjusted(kFrameSide, kFrameTop, -kFrameSide, -kFrameSide);
-  corner.setX(std::max(room.left(), std::min(corner.x(), room.right() - size.width() + 1)));
-  corner.setY(std::max(room.top(), std::min(corner.y(), room.bottom() - size.height() + 1)));
-  window.setGeometry(QRect(corner, size));
+  return nullptr;
+}
+
+qreal Face::unitOfNext() const {
+  const FormWindow* const before = inTurn(nullptr);
+  if (before != nullptr && before->layoutOf().takesTurns()) return before->unit().value();
+  return Places::unitOn(before == nullptr ? *QGuiApplication::primaryScreen() : *before->screen());
+}
+
+void Face::rescueWindows() {
+  for (const auto& [name, window] : windows_) {
+    if (window->isVisible()) Places::rescue(*window);
+  }
 }
 
 // The form that a person sees in the window of that name. While the next window is being made, one may

@@ -3,14 +3,13 @@
 #pragma once
 
 #include <QObject>
-#include <QPoint>
 #include <functional>
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 
 #include "desktop/form_window.h"
+#include "desktop/places.h"
 #include "flow/stage/runtime.h"
 #include "game/guide/next_hand.h"
 
@@ -41,8 +40,9 @@ class Face : public QObject {
   void releaseGone();
   void showOpened();
   void show(const std::string& name, Form& shown);
-  void place(const std::string& name, FormWindow& window);
-  void rememberPlace(const FormWindow& window);
+  [[nodiscard]] const FormWindow* inTurn(const FormWindow* next) const;
+  [[nodiscard]] qreal unitOfNext() const;
+  void rescueWindows();
   FormWindow::Events events();
   // Does something with a control and puts the keyboard where the hand is next.
   void use(const std::string& name, std::size_t index, const std::function<void(Form&)>& doing);
@@ -54,7 +54,7 @@ class Face : public QObject {
   PictureStore& pictures_;
   std::map<std::string, std::unique_ptr<FormWindow>> windows_;
   std::map<std::string, NextHand> hands_;
-  std::optional<QPoint> lastPlace_;
+  Places places_;
   bool over_ = false;
 };
 

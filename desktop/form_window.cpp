@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QIcon>
 #include <QLabel>
+#include <QLayout>
 #include <QListWidget>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -14,7 +15,6 @@
 
 #include "desktop/access.h"
 #include "desktop/control_widget.h"
-#include "desktop/layouts/layouts.h"
 #include "desktop/picture_store.h"
 #include "desktop/style.h"
 #include "desktop/text.h"
@@ -24,14 +24,82 @@
 
 namespace brolgan::desktop {
 
-FormWindow::FormWindow(std::string name, Form& form, PictureStore& pictures, const Events& events)
-    : name_(std::move(name)), form_(&form), pictures_(pictures), close_(events.close), escape_(events.escape) {
+namespace {
+
+// How long a window that was pulled is left alone before its pictures are made sharp, and how long
+// they are given to be decoded.
+constexpr int kRestMs = 120;
+constexpr int kDecodeMs = 60;
+
+// By how much a page may be wider or higher than its unit asks for.
+constexpr qreal kMostStretch = 1.25;
+
+}  // namespace
+
+// What lies behind the controls.
+class FormWindow::Page : public QWidget {
+ public:
+  explicit Page(FormWindow& window) : window_(window) {}
+
+  // Begins to decode the background at the size of the page.
+  void prepare() const {
+    if (!window_.background().isEmpty()) window_.pictures().prepare(window_.background(), pixels(), kMode);
+  }
+  void forget() { shown_ = {}; }
+
+  // A page that scrolls is as large as at the least unit.
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    return QWidget::minimumSizeHint().expandedTo((QSizeF(window_.unit().size()) * Unit::kLeast).toSize());
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    if (window_.background().isEmpty()) return;
+    if (shown_.isNull() || (shown_.size() != pixels() && !Unit::isMoving(this))) {
+      shown_ = window_.pictures().pixmap(window_.background(), pixels(), kMode);
+    }
+    QPainter(this).drawPixmap(rect(), shown_);
+  }
+
+ private:
+  static constexpr Qt::AspectRatioMode kMode = Qt::IgnoreAspectRatio;
+
+  [[nodiscard]] QSize pixels() const { return (QSizeF(size()) * devicePixelRatioF()).toSize(); }
+
+  FormWindow& window_;
+  QPixmap shown_;  // at the page's size, kept while the window shows
+};
+
+FormWindow::FormWindow(std::string name, Form& form, PictureStore& pictures, const Events& events, qreal unit)
+    : name_(std::move(name)),
+      layout_(screenLayout(name_)),
+      form_(&form),
+      pictures_(pictures),
+      close_(events.close),
+      escape_(events.escape),
+      unit_(*this, layout_.size, unit) {
   setObjectName(toQt(name_));
+  makePage();
   makeWidgets(events);
   mirrorAll();
-  layOut(name_, *this);
+  watchTips();
+  layout_.layOut(*this);
+  // All places are worked out at once, so that showing the window takes less time.
+  page().layout()->activate();
   orderTabs();
   addKeys(events);
+}
+
+// The window is its own background; only the controls have names.
+void FormWindow::makePage() {
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  setWidgetResizable(true);
+  setWidget(new Page(*this));
+  page().setAutoFillBackground(false);
+  viewport()->setAutoFillBackground(false);
+  viewport()->setObjectName({});
+  resize((QSizeF(unit_.size()) * unit_.value()).toSize());
 }
 
 void FormWindow::makeWidgets(const Events& events) {
@@ -49,14 +117,20 @@ void FormWindow::makeWidgets(const Events& events) {
   }
 }
 
+void FormWindow::watchTips() {
+  for (QWidget* const widget : inOrder_) {
+    if (widget != nullptr && !widget->toolTip().isEmpty()) widget->installEventFilter(&tips_);
+  }
+}
+
 QWidget* FormWindow::parentOf(const ControlEntry& entry) {
-  if (entry.frame == nullptr) return this;
+  if (entry.frame == nullptr) return &page();
   const auto& entries = form_->controls().entries();
   for (std::size_t i = 0; i < inOrder_.size(); ++i) {
     const auto* const* const frame = std::get_if<Frame*>(&entries[i].control);
     if (frame != nullptr && *frame == entry.frame) return inOrder_[i];
   }
-  return this;
+  return &page();
 }
 
 void FormWindow::orderTabs() {
@@ -135,7 +209,9 @@ void FormWindow::leaveScreen() {
   forgetMouse();
   hide();
   destroy();
-  shownBackground_ = {};
+  static_cast<Page&>(page()).forget();
+  rest_.stop();
+  unit_.setMoving(false);
 }
 
 // A button that was under the mouse would be lit when the window comes back.
@@ -149,7 +225,7 @@ void FormWindow::forgetMouse() {
 }
 
 void FormWindow::preparePictures() {
-  if (!background_.isEmpty()) pictures_.prepare(background_, pixels(), Qt::IgnoreAspectRatio);
+  static_cast<Page&>(page()).prepare();
   for (QWidget* const widget : inOrder_) {
     auto* const picture = dynamic_cast<PictureWidget*>(widget);
     if (picture != nullptr && picture->isVisibleTo(this)) picture->prepare();
@@ -166,11 +242,21 @@ std::string FormWindow::focused() const {
   return widget == nullptr ? std::string() : widget->objectName().toStdString();
 }
 
-QWidget& FormWindow::at(const std::string& fullName) const { return *widgets_.at(fullName); }
-
-QWidget& FormWindow::at(const std::string& name, int index) const {
-  return at(name + "(" + std::to_string(index) + ")");
+QWidget* FormWindow::find(const std::string& fullName) const {
+  const auto found = widgets_.find(fullName);
+  return found == widgets_.end() ? nullptr : found->second;
 }
+
+std::vector<QRect> FormWindow::keptClear() const {
+  std::vector<QRect> places;
+  for (const char* const name : layout_.keptClear) {
+    const QWidget& widget = at(name);
+    places.emplace_back(widget.mapToGlobal(QPoint(0, 0)), widget.size());
+  }
+  return places;
+}
+
+void FormWindow::setBackground(const QString& pictureName) { background_ = pictureName; }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
@@ -181,17 +267,53 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {
     escape_(name_);
   } else {
-    QWidget::keyPressEvent(event);
+    QScrollArea::keyPressEvent(event);
   }
 }
 
-void FormWindow::paintEvent(QPaintEvent*) {
-  if (background_.isEmpty()) return;
-  if (shownBackground_.size() != pixels()) {
-    shownBackground_ = pictures_.pixmap(background_, pixels(), Qt::IgnoreAspectRatio);
-    shownBackground_.setDevicePixelRatio(devicePixelRatioF());
+bool FormWindow::event(QEvent* event) {
+  if (event->type() == QEvent::Resize) fit();
+  return QScrollArea::event(event);
+}
+
+// The places are worked out before the window asks whether it has to scroll.
+void FormWindow::fit() {
+  unit_.follow(size());
+  page().layout()->activate();
+  if (layout_.takesTurns()) keepProportion();
+  if (!isVisible()) return;
+  unit_.setMoving(true);
+  isDecoding_ = false;
+  rest_.start(kRestMs, this);
+}
+
+// In a window of quite another shape the page stands in the middle.
+void FormWindow::keepProportion() {
+  const QSize most = (QSizeF(unit_.size()) * unit_.value() * kMostStretch).toSize();
+  const QSize spare = (size() - most).expandedTo({0, 0}) / 2;
+  const QMargins around(spare.width(), spare.height(), spare.width(), spare.height());
+  if (viewportMargins() != around) setViewportMargins(around);
+}
+
+void FormWindow::timerEvent(QTimerEvent* event) {
+  if (event->timerId() == rest_.timerId()) {
+    sharpen();
+  } else {
+    QScrollArea::timerEvent(event);
   }
-  QPainter(this).drawPixmap(0, 0, shownBackground_);
+}
+
+// The pictures are decoded beside the event thread, and drawn when that has had its time.
+void FormWindow::sharpen() {
+  if (!isDecoding_) {
+    isDecoding_ = true;
+    preparePictures();
+    rest_.start(kDecodeMs, this);
+    return;
+  }
+  rest_.stop();
+  unit_.setMoving(false);
+  page().update();
 }
 
 }  // namespace brolgan::desktop

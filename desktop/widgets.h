@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPixmap>
+#include <QRadioButton>
 #include <functional>
 
 class QPainter;
@@ -12,6 +14,27 @@ class QPainter;
 namespace brolgan::desktop {
 
 class PictureStore;
+
+// An option that can be clicked on its whole row.
+class OptionRow : public QRadioButton {
+ public:
+  using QRadioButton::QRadioButton;
+
+ protected:
+  [[nodiscard]] bool hitButton(const QPoint& place) const override { return rect().contains(place); }
+};
+
+// Shows the tool tips of the widgets that it watches in lines of a readable length.
+class TipLines : public QObject {
+ public:
+  using QObject::QObject;
+
+  // The text with its lines broken at so many pixels.
+  static QString broken(const QString& text, const QFont& font, int width);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+};
 
 // A label that can be clicked, with the mouse or, since it takes the focus, with the keyboard.
 class ClickLabel : public QLabel {
@@ -30,9 +53,11 @@ class ClickLabel : public QLabel {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void drawPlate(QPainter& painter);
+  void setMargins();
 
   std::function<void()> click_;
   bool isCheckable_ = false;
@@ -63,22 +88,44 @@ class RowList : public QListWidget {
                                                                      const QEvent* event) const override;
 };
 
-// Shows a picture file as large as fits, in the middle.
+// A picture file as it stands in a widget: as large as fits, in the middle. While the window is pulled
+// the picture that was drawn last is stretched; when it rests, a sharp one takes its place.
+class Picture {
+ public:
+  Picture(PictureStore& pictures, QString name = {}) : pictures_(pictures), name_(std::move(name)) {}
+
+  // Answers whether that is another picture than before.
+  bool setName(const QString& name);
+  [[nodiscard]] const QString& name() const { return name_; }
+  // Begins to decode the picture for an area of the widget.
+  void prepare(const QWidget& widget, QRect area) const;
+  void draw(QWidget& widget, QRect area);
+  // Gives back the memory of what was drawn.
+  void forget();
+
+ private:
+  PictureStore& pictures_;
+  QString name_;
+  QPixmap shown_;
+  QSize shownFor_;  // the area of device pixels for which it was decoded
+};
+
+// Shows a picture file.
 class PictureWidget : public QLabel {
  public:
   PictureWidget(PictureStore& pictures, QWidget* parent);
 
   void setName(const QString& name);
-  [[nodiscard]] const QString& name() const { return name_; }
+  [[nodiscard]] const QString& name() const { return picture_.name(); }
   // Begins to decode the picture for its next drawing.
   void prepare();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  private:
-  PictureStore& pictures_;
-  QString name_;
+  Picture picture_;
 };
 
 // A button whose face is a picture.
@@ -86,15 +133,15 @@ class PictureButton : public QAbstractButton {
  public:
   PictureButton(PictureStore& pictures, const QString& name, QWidget* parent);
 
-  [[nodiscard]] QSize sizeHint() const override { return {48, 48}; }
+  [[nodiscard]] QSize sizeHint() const override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  private:
-  PictureStore& pictures_;
-  QString name_;
+  Picture picture_;
 };
 
 }  // namespace brolgan::desktop
