@@ -126,7 +126,7 @@ TEST(Screens, ComeBackIntoSightWhenTheirDisplayGoes) {
   desktop::FormWindow& window = stage.window("Main");
   window.setGeometry(QRect(QPoint(-9000, -9000), window.size()));
   QApplication::processEvents();
-  emit qGuiApp->screenRemoved(QGuiApplication::screens().last());
+  Q_EMIT qGuiApp->screenRemoved(QGuiApplication::screens().last());
   Stage::settle();
   EXPECT_TRUE(QGuiApplication::primaryScreen()->availableGeometry().contains(window.geometry()));
 }
