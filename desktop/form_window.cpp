@@ -47,6 +47,8 @@ class FormWindow::Page : public QWidget {
   }
   void forget() { shown_ = {}; }
 
+  // The height below which the page scrolls; a list can do with less than it would like.
+  [[nodiscard]] int heightForWidth(int width) const override { return layout()->totalMinimumHeightForWidth(width); }
   // A page that scrolls is as large as at the least unit.
   [[nodiscard]] QSize minimumSizeHint() const override {
     return QWidget::minimumSizeHint().expandedTo((QSizeF(window_.unit().size()) * Unit::kLeast).toSize());

@@ -16,7 +16,7 @@ constexpr WeaponHeadings kHeadings = {{0, 1, 2, 3}, {4, 5, 6, 7}};
 
 QWidget* classes(FormWindow& window) {
   QWidget& frame = window.at("Frame6");
-  auto* column = within<QVBoxLayout>(window, frame, {12, 8, 12, 10}, 8);
+  auto* column = within<QVBoxLayout>(window, frame, {12, 8, 12, 8}, 6);
   column->addWidget(&label(window, "Label14", Type::heading));
   for (int i = 0; i < kClasses; ++i) column->addWidget(&window.at<QRadioButton>("Klasa", i));
   return &frame;
@@ -58,7 +58,7 @@ QHBoxLayout* trades(FormWindow& window) {
   auto* row = bare<QHBoxLayout>(window, 8);
   for (int i = 0; i < 3; ++i) {
     auto& picture = window.at<PictureWidget>("pics", i);
-    window.unit().atLeast(picture, 96, 96);
+    window.unit().atLeast(picture, 64, 64);
     row->addWidget(&picture, 1);
   }
   return row;
@@ -83,7 +83,7 @@ void layOutCreation(FormWindow& window) {
   window.unit().fixed(*left, 280, 0);
   auto* columns = within<QHBoxLayout>(window, window.page(), {12, 10, 12, 10}, 10);
   columns->addWidget(left);
-  columns->addLayout(middle, 13);
+  columns->addLayout(middle, 12);
   columns->addLayout(right, 11);
 }
 

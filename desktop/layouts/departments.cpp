@@ -67,6 +67,8 @@ void layOutDesk(FormWindow& window, QGridLayout& grid, int column, const Desk& d
   grid.addWidget(&heading, 1, column, 1, 2);
   auto& list = window.at<QListWidget>(desk.list);
   window.unit().atLeast(list, 0, 96);
+  // A list would like a height that is told in pixels; it takes what is left.
+  list.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
   grid.addWidget(&list, 2, column, 1, 2);
   for (std::size_t i = 0; i < headings.size(); ++i) {
     const int row = 3 + static_cast<int>(i);
@@ -127,6 +129,7 @@ void layOutSpells(FormWindow& window) {
     window.unit().row(grid, i + 2, 24);
   }
   int row = kSpells + 2;
+  window.unit().row(grid, row++, 3);
   for (const char* name : {"Label10(0)", "Label10(1)", "Label12"}) {
     grid.addWidget(&label(window, name, Type::small), row++, 0, 1, 3);
   }

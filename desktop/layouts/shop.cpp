@@ -30,7 +30,7 @@ QWidget* zones(FormWindow& window) {
   auto* column = within<QVBoxLayout>(window, frame, {10, 8, 10, 8}, 4);
   for (int i = 1; i <= kZones; ++i) {
     auto& zone = window.at<QPushButton>("w" + std::to_string(i));
-    window.unit().atLeast(zone, 0, 38);
+    window.unit().atLeast(zone, 0, 36);
     column->addWidget(&zone);
   }
   return &frame;
@@ -93,8 +93,8 @@ void layOutShop(FormWindow& window) {
   right->addLayout(signs(window), 1);
   auto* columns = within<QHBoxLayout>(window, window.page(), {12, 10, 12, 10}, 10);
   columns->addWidget(leftColumn(window));
-  columns->addLayout(middle, 5);
-  columns->addLayout(right, 4);
+  columns->addLayout(middle, 6);
+  columns->addLayout(right, 5);
 }
 
 }  // namespace brolgan::desktop
