@@ -87,7 +87,7 @@ class DevelopmentForm : public Form {
   void Bron_Lista();
   // Buys one purchase of a supply by its index in wyp; the points are not tested here.
   void addSupply(int supply);
-  // Writes the counts of the supplies; raises 6 for one beyond the range of an Integer.
+  // Writes the counts of the supplies; raises overflow for one beyond the range of an Integer.
   void writeSupplies(ItemWriter& out) const;
   // Buys what is not owned yet and can be paid. Answers whether it was bought.
   bool buy(bool& owned, std::int64_t price, Label& mark);

@@ -14,13 +14,20 @@ constexpr std::array<Read, 5> kReads = {[](ItemReader& in) { in.string("x"); }, 
                                         [](ItemReader& in) { in.flag("x"); }, [](ItemReader& in) { in.boolean("x"); },
                                         [](ItemReader& in) { in.variant("x"); }};
 
-// Reads on after every error but that of the file's end, as only a test would.
+// A thrown error costs a fuzzer as much as thousands of bytes read, and words in place of numbers
+// would raise one an item.
+constexpr int kMostErrors = 2;
+
+// Reads on after an error, as only a test would.
 void readToTheEnd(const std::string& bytes, std::size_t first, std::size_t step) {
   ItemReader in("plik.txt", bytes);
   std::size_t next = first;
+  int errors = 0;
   for (std::size_t items = 0; items <= bytes.size(); ++items) {
     const Read read = kReads[next % kReads.size()];
-    if (codeOf([&] { read(in); }) == static_cast<int>(ErrorCode::pastEnd)) return;
+    const int code = codeOf([&] { read(in); });
+    if (code == static_cast<int>(ErrorCode::pastEnd)) return;
+    if (code != 0 && ++errors == kMostErrors) return;
     next += step;
   }
   require(false);

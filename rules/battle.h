@@ -7,7 +7,7 @@
 namespace brolgan {
 
 // A melee blow: the percent works on the hero's strength and the flat bonus, and the weapon's own
-// dice come on top. strength and weapon are the rolls; raises 6 outside an Integer.
+// dice come on top. strength and weapon are the rolls; raises overflow outside an Integer.
 Integer meleeDamage(const Bohater& hero, Integer weaponIndex, Integer strength, const Kostka& weapon,
                     Integer weaponRoll);
 

@@ -23,10 +23,11 @@ struct StatisticRow {
 
 extern const std::array<StatisticRow, kStatistics> kStatisticTable;
 
-// The number that step stands for on a ladder of numbers. Raises 340 when the ladder has no such step.
+// The number that step stands for on a ladder of numbers. Raises noSuchControl when
+// the ladder has no such step.
 Integer ladderValue(Statistic statistic, Integer step);
 
-// The damage modifier's dice at a step from 1 to 5. Raises 340 outside.
+// The damage modifier's dice at a step from 1 to 5. Raises noSuchControl outside.
 Kostka modifierDice(Integer step);
 
 // Classes. A hero's class is its caption, compared to the letter.

@@ -26,7 +26,7 @@ struct PlayerOrder {
   Array<std::string, kMost> Gracz;
 };
 
-// Reads the count and the names. Raises 9 when there are more than four.
+// Reads the count and the names. Raises subscript when there are more than four.
 PlayerOrder readPlayerOrder(ItemReader in);
 void writePlayerOrder(ItemWriter out, Integer count, const std::vector<std::string>& names);
 

@@ -51,7 +51,7 @@ struct Catalogue {
   Integer IleSs;
 };
 
-// Reads the whole catalogue. Raises 9 when a list holds more than Capacity weapons.
+// Reads the whole catalogue. Raises subscript when a list holds more than Capacity weapons.
 template <std::size_t Capacity>
 void Bron_Load(ItemReader in, Catalogue<Capacity>& catalogue, CountReading counts, FlagReading flags) {
   catalogue.IleWw = readCount(in, counts);

@@ -132,7 +132,7 @@ TEST_F(ItemWriting, AnErrorInTheMiddleLeavesTheLinesWrittenUntilThen) {
 
 TEST_F(ItemWriting, AFileWithoutANameCannotBeOpened) {
   EXPECT_EQ(errorTextOf([this] { const ItemWriter out(files, ""); }),
-            "Błąd wykonania 75: Błąd dostępu do ścieżki lub pliku");
+            "Błąd wykonania 75: Błąd dostępu do ścieżki lub pliku\nPlik: (pusta nazwa)");
 }
 
 // Files that take a name and then store nothing.
