@@ -31,6 +31,11 @@ void readFlags(ItemReader& in, Flags& flags, const char* name) {
   for (int i = 0; i < Flags::size; ++i) flags(i) = in.flag({name, i});
 }
 
+void readStep(ItemReader& in, Bohater& hero, int statistic, StepLines& lines) {
+  hero.Poziomy(statistic) = in.integer({"Poziomy", statistic});
+  lines[static_cast<std::size_t>(statistic)] = in.line();
+}
+
 template <class Numbers>
 void writeIntegers(ItemWriter& out, const Numbers& numbers) {
   for (const Integer number : numbers) out.integer(number);
@@ -71,17 +76,17 @@ void readPerson(ItemReader& in, Bohater& hero) {
   hero.AktMoc = in.integer("AktMoc");
 }
 
-void readStatistics(ItemReader& in, Bohater& hero) {
+void readStatistics(ItemReader& in, Bohater& hero, StepLines& lines) {
   for (int i = 0; i < 5; ++i) {
-    hero.Poziomy(i) = in.integer({"Poziomy", i});
+    readStep(in, hero, i, lines);
     hero.Wartosci(i) = in.integer({"Wartosci", i});
   }
 }
 
-void readModifier(ItemReader& in, Bohater& hero) {
-  hero.Poziomy(5) = in.integer({"Poziomy", 5});
+void readModifier(ItemReader& in, Bohater& hero, StepLines& lines) {
+  readStep(in, hero, 5, lines);
   hero.MO = readDice(in);
-  hero.Poziomy(6) = in.integer({"Poziomy", 6});
+  readStep(in, hero, 6, lines);
   hero.Wcielenia = in.integer("Wcielenia");
 }
 
@@ -108,9 +113,10 @@ void readHistory(ItemReader& in, Bohater& hero) {
 
 Bohater Player_Load(ItemReader in) {
   Bohater hero;
+  StepLines lines{};
   readPerson(in, hero);
-  readStatistics(in, hero);
-  readModifier(in, hero);
+  readStatistics(in, hero, lines);
+  readModifier(in, hero, lines);
   readWeapons(in, hero);
   readGoods(in, hero);
   readHistory(in, hero);

@@ -49,6 +49,7 @@ class CTsklep : public DevelopmentForm {
 
   Array<Integer, kStatistics> PoziomyMax;
   Integer UbytekWytrzymalosci;
+  StepLines stepLines_{};
 };
 
 }  // namespace brolgan

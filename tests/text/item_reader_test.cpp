@@ -307,6 +307,11 @@ TEST(VariantItem, AWordIsATypeMismatch) {
   }
 }
 
+TEST(VariantItem, TheLowestAndTheHighestIntegerAreTaken) {
+  EXPECT_EQ(over("-32768\r\n").variant("x"), -32768);
+  EXPECT_EQ(over(" 32767 \r\n").variant("x"), 32767);
+}
+
 TEST(VariantItem, ANumberTooLargeOverflows) {
   EXPECT_EQ(errorOf([] { over("32768\r\n").variant("x"); }), 6);
   EXPECT_EQ(errorOf([] { over("-32769\r\n").variant("x"); }), 6);
