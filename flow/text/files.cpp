@@ -30,9 +30,7 @@ bool folderExists(const fs::path& path) {
   return !path.has_parent_path() || fs::is_directory(path.parent_path(), ignored);
 }
 
-[[noreturn]] void fail(ErrorCode code, const std::string& name) {
-  throw RuntimeError(code, {name.empty() ? "(pusta nazwa)" : name, 0, {}});
-}
+[[noreturn]] void fail(ErrorCode code, const std::string& name) { throw RuntimeError(code, {name, 0, {}}); }
 
 // Raises the error of a name under which something else than a file lies, or nothing can lie.
 // Answers whether there is a file.
