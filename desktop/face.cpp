@@ -2,15 +2,15 @@
 
 #include <QCoreApplication>
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <QScreen>
 #include <QTimer>
+#include <cstdio>
 
 #include "desktop/access.h"
+#include "desktop/error_box.h"
 #include "desktop/picture_store.h"
 #include "desktop/text.h"
 #include "flow/stage/hands.h"
-#include "flow/text/runtime_error.h"
 #include "game/names/names.h"
 
 namespace brolgan::desktop {
@@ -43,22 +43,21 @@ void Face::act(const std::function<void()>& doing) {
   if (over_) return;
   try {
     doing();
-  } catch (const RuntimeError& error) {
-    fail(error.what());
-    return;
+    synchronize();
+  } catch (...) {
+    fail(std::current_exception());
   }
-  synchronize();
 }
 
-// The one message box of the game; behind it the program ends.
-void Face::fail(const char* text) {
+// Tells of the first error in the one message box of the game; behind it the program ends.
+void Face::fail(const std::exception_ptr& error) {
+  if (over_) return;
   over_ = true;
   runtime_.End();
-  const QString message = QString::fromUtf8(text);
-  if (onError) {
-    onError(message);
-  } else {
-    QMessageBox(QMessageBox::Critical, QString::fromUtf8("Błąd"), message, QMessageBox::Ok).exec();
+  try {
+    onError ? onError(errorText(error)) : showErrorBox(errorText(error));
+  } catch (const std::exception& second) {  // Not even the box could be made.
+    std::fprintf(stderr, "%s\n", second.what());
   }
   QCoreApplication::exit(1);
 }
@@ -75,7 +74,7 @@ void Face::synchronize() {
   releaseGone();
   if (makeWindow()) {
     QMetaObject::invokeMethod(
-        this, [this] { synchronize(); }, Qt::QueuedConnection);
+        this, [this] { act([] {}); }, Qt::QueuedConnection);
     return;
   }
   showOpened();

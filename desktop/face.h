@@ -1,8 +1,9 @@
 // The face of the game: shows the loaded forms as windows, passes on what a person does to them,
-// and is the one place where a run-time error is caught.
+// and is the one place where an error ends the game.
 #pragma once
 
 #include <QObject>
+#include <exception>
 #include <functional>
 #include <map>
 #include <memory>
@@ -25,6 +26,9 @@ class Face : public QObject {
   // Opens the start form and with it the game.
   void start();
 
+  // Ends the program behind the box that tells of an error; every later one is passed over.
+  void fail(const std::exception_ptr& error);
+
   // The window of a form, null when it has none yet.
   [[nodiscard]] FormWindow* window(const std::string& name) const;
 
@@ -33,7 +37,6 @@ class Face : public QObject {
 
  private:
   void act(const std::function<void()>& doing);
-  void fail(const char* text);
   void synchronize();
   bool makeWindow();
   void hideClosed();

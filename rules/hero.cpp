@@ -24,6 +24,11 @@ void readFlags(ItemReader& in, Flags& flags, const char* name) {
   for (int i = 0; i < Flags::size; ++i) flags(i) = in.flag({name, i});
 }
 
+void readStep(ItemReader& in, Bohater& hero, int statistic, StepLines& lines) {
+  hero.Poziomy(statistic) = in.integer({"Poziomy", statistic});
+  lines[static_cast<std::size_t>(statistic)] = in.line();
+}
+
 template <class Numbers>
 void writeIntegers(ItemWriter& out, const Numbers& numbers) {
   for (const Integer number : numbers) out.integer(number);
@@ -55,17 +60,17 @@ void readPerson(ItemReader& in, Bohater& hero) {
   hero.AktMoc = in.integer("AktMoc");
 }
 
-void readStatistics(ItemReader& in, Bohater& hero) {
+void readStatistics(ItemReader& in, Bohater& hero, StepLines& lines) {
   for (int i = 0; i < kValues; ++i) {
-    hero.Poziomy(i) = in.integer({"Poziomy", i});
+    readStep(in, hero, i, lines);
     hero.Wartosci(i) = in.integer({"Wartosci", i});
   }
 }
 
-void readModifier(ItemReader& in, Bohater& hero) {
-  hero.Poziomy(kModifier) = in.integer({"Poziomy", kModifier});
+void readModifier(ItemReader& in, Bohater& hero, StepLines& lines) {
+  readStep(in, hero, kModifier, lines);
   hero.MO = readDice(in);
-  hero.Poziomy(kLives) = in.integer({"Poziomy", kLives});
+  readStep(in, hero, kLives, lines);
   hero.Wcielenia = in.integer("Wcielenia");
 }
 
@@ -99,9 +104,10 @@ void readHistory(ItemReader& in, Bohater& hero) {
 
 Bohater Player_Load(ItemReader in) {
   Bohater hero;
+  StepLines lines{};
   readPerson(in, hero);
-  readStatistics(in, hero);
-  readModifier(in, hero);
+  readStatistics(in, hero, lines);
+  readModifier(in, hero, lines);
   readWeapons(in, hero);
   readGoods(in, hero);
   readHistory(in, hero);

@@ -3,6 +3,7 @@
 // of the file are read and written one by one, since some screens check or compute between them.
 #pragma once
 
+#include <array>
 #include <string>
 
 #include "flow/text/array.h"
@@ -68,13 +69,16 @@ struct Bohater {
   }
 };
 
+// The line of the file on which each step of Poziomy stood.
+using StepLines = std::array<int, kStatistics>;
+
 // Reading, part by part in file order. Raises the errors of ItemReader.
-void readPerson(ItemReader& in, Bohater& hero);      // Imie to AktMoc, lines 1 to 5
-void readStatistics(ItemReader& in, Bohater& hero);  // the five pairs of step and value, to line 15
-void readModifier(ItemReader& in, Bohater& hero);    // the modifier to Wcielenia, to line 19
-void readWeapons(ItemReader& in, Bohater& hero);     // the twenty weapon slots, to line 79
-void readGoods(ItemReader& in, Bohater& hero);       // spells, supplies, gear, items, to line 112
-void readHistory(ItemReader& in, Bohater& hero);     // Tura to Stwory, to line 161
+void readPerson(ItemReader& in, Bohater& hero);                        // Imie to AktMoc, lines 1 to 5
+void readStatistics(ItemReader& in, Bohater& hero, StepLines& lines);  // the five pairs of step and value, to line 15
+void readModifier(ItemReader& in, Bohater& hero, StepLines& lines);    // the modifier to Wcielenia, to line 19
+void readWeapons(ItemReader& in, Bohater& hero);                       // the twenty weapon slots, to line 79
+void readGoods(ItemReader& in, Bohater& hero);                         // spells, supplies, gear, items, to line 112
+void readHistory(ItemReader& in, Bohater& hero);                       // Tura to Stwory, to line 161
 
 // The whole file; every part above in order.
 Bohater Player_Load(ItemReader in);

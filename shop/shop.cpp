@@ -69,9 +69,9 @@ void CTsklep::readHero(ItemReader in) {
   Ile_jeszcze.Caption = decimal(bohater.Ile_jeszcze);
   akt[0].Caption = decimal(bohater.AktWytrzymalosc);
   akt[1].Caption = decimal(bohater.AktMoc);
-  readStatistics(in, bohater);
+  readStatistics(in, bohater, stepLines_);
   rememberLostEndurance();
-  readModifier(in, bohater);
+  readModifier(in, bohater, stepLines_);
   akt[2].Caption = decimal(bohater.Wcielenia);
   markLadders();
   readWeapons(in, bohater);
@@ -84,7 +84,8 @@ void CTsklep::readHero(ItemReader in) {
 std::size_t CTsklep::stepPlace(int statistic) {
   const Integer index = bohater.Poziomy(statistic) - 1;
   if (index < 0 || index.value() >= PoziomyMax(statistic).value()) {
-    throw RuntimeError(ErrorCode::noSuchControl, {Plik.Text, 0, Field("Poziomy", statistic).text()});
+    const int line = stepLines_[static_cast<std::size_t>(statistic)];
+    throw RuntimeError(ErrorCode::noSuchControl, {Plik.Text, line, Field("Poziomy", statistic).text()});
   }
   return static_cast<std::size_t>(index.value());
 }

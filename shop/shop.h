@@ -47,6 +47,7 @@ class CTsklep : public DevelopmentForm {
   std::array<CommandButton*, 12> zoneButtons();
 
   Integer UbytekWytrzymalosci;
+  StepLines stepLines_{};
 };
 
 }  // namespace brolgan

@@ -262,6 +262,9 @@ TEST(HeroFile, AnErrorNamesTheFieldOfItsLine) {
   EXPECT_EQ(overflow(2), start + "2\nPole: Ile_jeszcze");
   EXPECT_EQ(overflow(6), start + "6\nPole: Poziomy(0)");
   EXPECT_EQ(overflow(15), start + "15\nPole: Wartosci(4)");
+  EXPECT_EQ(overflow(16), start + "16\nPole: Poziomy(5)");
+  EXPECT_EQ(overflow(18), start + "18\nPole: Poziomy(6)");
+  EXPECT_EQ(overflow(19), start + "19\nPole: Wcielenia");
   EXPECT_EQ(overflow(21), start + "21\nPole: BronwwProc(0)");
   EXPECT_EQ(overflow(79), start + "79\nPole: BronssPlus(9)");
   EXPECT_EQ(overflow(91), start + "91\nPole: Wyp(1)");

@@ -15,6 +15,11 @@ void FakePictures::load(const std::string& name) {
   loaded.push_back(name);
 }
 
+void FillingFiles::append(const std::string& name, std::string_view bytes) {
+  if (room-- <= 0) throw RuntimeError(ErrorCode::deviceIo, {name, 0, {}});
+  MemoryFiles::append(name, bytes);
+}
+
 void RecordingSounds::play(const std::string& player, const std::string& fileName) {
   events.push_back(player + " " + fileName);
 }
