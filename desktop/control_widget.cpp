@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 
 #include "desktop/picture_store.h"
+#include "desktop/style.h"
 #include "desktop/text.h"
 #include "desktop/text_label.h"
 #include "desktop/theme.h"
@@ -104,7 +105,8 @@ struct Maker {
   }
 };
 
-// Red text is bold, so that it stays readable on the light panels.
+// Red text is bold, so that it stays readable on the light panels, and underlined, so that it is told by
+// more than its colour.
 void setColour(QWidget& widget, Colour colour) {
   const QColor wanted = theme::colourOf(colour);
   QPalette palette = widget.palette();
@@ -112,7 +114,8 @@ void setColour(QWidget& widget, Colour colour) {
   for (const auto group : {QPalette::Active, QPalette::Inactive}) palette.setColor(group, QPalette::WindowText, wanted);
   widget.setPalette(palette);
   QFont font = widget.font();
-  font.setBold(colour == Colour::red || widget.property("bold").toBool());
+  font.setBold(colour == Colour::red || widget.property(kIsBold).toBool());
+  font.setUnderline(colour == Colour::red);
   widget.setFont(font);
 }
 

@@ -15,6 +15,7 @@
 
 #include "desktop/access.h"
 #include "desktop/control_widget.h"
+#include "desktop/motion.h"
 #include "desktop/picture_store.h"
 #include "desktop/style.h"
 #include "desktop/text.h"
@@ -30,6 +31,10 @@ namespace {
 // they are given to be decoded.
 constexpr int kRestMs = 120;
 constexpr int kDecodeMs = 60;
+
+// The picture that answers a blow, and the report that tells of one.
+const QString kMonsterPicture = QStringLiteral("Potwór");
+const QString kBlowsDealt = QStringLiteral("IleZad");
 
 // By how much a page may be wider or higher than its unit asks for.
 constexpr qreal kMostStretch = 1.25;
@@ -195,9 +200,23 @@ void FormWindow::tellAll() {
     tell(name_, entries[i], *widget);
     if (!isAnnounced(name_, entries[i])) continue;
     const QString words = widget->isVisible() ? widget->property("text").toString() : QString();
-    if (!words.isEmpty() && announced_[widget] != words) announce(*widget);
+    if (!words.isEmpty() && announced_[widget] != words) {
+      announce(*widget);
+      stir(*widget);
+    }
     announced_[widget] = words;
   }
+  for (auto* const picture : page().findChildren<PictureWidget*>(kMonsterPicture)) {
+    picture->setDimmed(isGroupGone(name_, *form_));
+  }
+}
+
+// News is felt: its report comes in with a movement, and the monster answers a blow.
+void FormWindow::stir(QWidget& report) {
+  if (!isActiveWindow()) return;
+  slideIn(report);
+  if (report.objectName() != kBlowsDealt) return;
+  for (auto* const picture : page().findChildren<PictureWidget*>(kMonsterPicture)) flinch(*picture);
 }
 
 void FormWindow::expectNews(const std::string& used) {

@@ -94,6 +94,7 @@ class FormWindow : public QScrollArea {
   void addKeys(const Events& events);
   void reach(std::size_t index, const Events& events);
   void tellAll();
+  void stir(QWidget& report);
   void forgetMouse();
   void watchTips();
   void fit();

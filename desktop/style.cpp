@@ -21,6 +21,9 @@ constexpr int kPlateRadius = 4;
 
 constexpr int kEdge = 2;
 constexpr QMargins kEvenEdge(kEdge, kEdge, kEdge, kEdge);
+// The ring of the keyboard's focus.
+constexpr int kRing = 4;
+constexpr QMargins kRingEdge(kRing, kRing, kRing, kRing);
 
 // A button stands out by a thicker edge at the right and below.
 constexpr QMargins kRaisedEdge(kEdge, kEdge, kEdge + 1, kEdge + 2);
@@ -41,6 +44,8 @@ constexpr int kPlatePadding = 8;
 constexpr int kBadgeEdge = 3;
 constexpr int kTipMargin = 12;
 constexpr int kRowSpacing = 4;
+constexpr int kKeySize = 10;
+constexpr QMargins kKeyMargins(5, 1, 6, 3);
 
 // The lengths of the widget that is drawn, in pixels.
 class Lengths {
@@ -86,6 +91,7 @@ void draw(QPainter& painter, const QRect& place, const Box& box) {
 
 // The edge of a button, in units.
 QMargins buttonEdge(const QStyleOption& option, const QWidget* widget) {
+  if (has(option, QStyle::State_HasFocus)) return is(widget, kIsNarrow) ? kRaisedEdge : kRingEdge;
   if (is(widget, kIsNarrow)) return kNarrowEdge;
   const bool isFlat = has(option, QStyle::State_Sunken) || !has(option, QStyle::State_Enabled);
   return isFlat ? kEvenEdge : kRaisedEdge;
@@ -125,8 +131,23 @@ void drawField(const QStyleOption& option, QPainter& painter, const QWidget* wid
   const QColor face = has(option, QStyle::State_HasFocus) ? theme::kFocusField : theme::kPlate;
   const bool isEnabled = has(option, QStyle::State_Enabled);
   draw(painter, option.rect,
-       {isEnabled ? face : theme::kDisabledFace, edgeColour(option, theme::kFieldEdge), length.of(kEvenEdge),
-        length.of(kFieldRadius)});
+       {isEnabled ? face : theme::kDisabledFace, edgeColour(option, theme::kFieldEdge),
+        length.of(has(option, QStyle::State_HasFocus) ? kRaisedEdge : kEvenEdge), length.of(kFieldRadius)});
+}
+
+// The letter that reaches a widget together with Alt, small in its lower right corner.
+void drawKey(QPainter& painter, const QRect& place, const QWidget* widget, const QPalette& palette) {
+  const QString key = widget == nullptr ? QString() : widget->property(kAccessKey).toString();
+  if (key.isEmpty()) return;
+  const Lengths length(widget);
+  QFont font = widget->font();
+  font.setBold(false);
+  font.setPixelSize(std::max(8, length.of(kKeySize)));
+  painter.save();
+  painter.setFont(font);
+  painter.setPen(widget->isEnabled() ? theme::kFieldEdge : palette.color(QPalette::Disabled, QPalette::ButtonText));
+  painter.drawText(place.marginsRemoved(length.of(kKeyMargins)), Qt::AlignRight | Qt::AlignBottom, key);
+  painter.restore();
 }
 
 // A field of many lines: a frame around what scrolls in it.
@@ -260,7 +281,10 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
   }
   if (element == CE_ShapedFrame && is(widget, kIsPanel)) return drawPanel(*painter, option->rect, widget);
   if (element == CE_ShapedFrame && is(widget, kIsBadge)) return drawBadge(*painter, option->rect, widget);
-  if (element == CE_ShapedFrame && isLargeField(widget)) return drawField(*option, *painter, widget);
+  if (element == CE_ShapedFrame && isLargeField(widget)) {
+    drawField(*option, *painter, widget);
+    return drawKey(*painter, option->rect, widget, option->palette);
+  }
   QProxyStyle::drawControl(element, option, painter, widget);
 }
 
@@ -281,6 +305,7 @@ void Style::drawPushButton(const QStyleOptionButton& option, QPainter& painter, 
   QStyleOptionButton label = option;
   label.rect = proxy()->subElementRect(SE_PushButtonContents, &option, widget);
   proxy()->drawControl(CE_PushButtonLabel, &label, &painter, widget);
+  drawKey(painter, option.rect, widget, option.palette);
   if (!has(option, State_HasFocus)) return;
   QStyleOptionFocusRect focus;
   static_cast<QStyleOption&>(focus) = option;
@@ -307,6 +332,7 @@ void Style::drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, 
   QStyleOption arrow = option;
   arrow.rect = proxy()->subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget);
   proxy()->drawPrimitive(PE_IndicatorArrowDown, &arrow, &painter, widget);
+  drawKey(painter, option.rect, widget, option.palette);
 }
 
 QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {

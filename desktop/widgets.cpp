@@ -18,6 +18,9 @@ namespace brolgan::desktop {
 
 namespace {
 
+// How much is left of a picture that is set back.
+constexpr qreal kFaint = 0.4;
+
 constexpr int kTipWidth = 420;
 constexpr int kPictureButton = 48;
 
@@ -103,7 +106,8 @@ void ClickLabel::paintEvent(QPaintEvent*) {
 // A light plate says that the label can be clicked; the focus thickens its edge.
 void ClickLabel::drawPlate(QPainter& painter) {
   const qreal unit = Unit::of(this);
-  painter.setPen(hasFocus() ? QPen(theme::kFocus, 2 * unit) : QPen(theme::kEdge, unit));
+  const QPen atRest = isChecked_ ? QPen(theme::kInk, 2 * unit) : QPen(theme::kEdge, unit);
+  painter.setPen(hasFocus() ? QPen(theme::kFocus, 3 * unit) : atRest);
   painter.setBrush(theme::kPlate);
   painter.drawRoundedRect(QRectF(rect()).adjusted(unit, unit, -unit, -unit), 4 * unit, 4 * unit);
 }
@@ -136,6 +140,8 @@ bool Picture::setName(const QString& name) {
   return true;
 }
 
+bool Picture::setDimmed(bool isDimmed) { return std::exchange(isDimmed_, isDimmed) != isDimmed; }
+
 void Picture::forget() {
   shown_ = {};
   shownFor_ = {};
@@ -157,7 +163,7 @@ void Picture::draw(QWidget& widget, QRect area) {
   const QPointF corner(area.x() + (area.width() - size.width()) / 2, area.y() + (area.height() - size.height()) / 2);
   QPainter painter(&widget);
   painter.setRenderHint(QPainter::SmoothPixmapTransform, !isSharp);
-  if (!widget.isEnabled()) painter.setOpacity(0.4);
+  if (!widget.isEnabled() || isDimmed_) painter.setOpacity(kFaint);
   painter.drawPixmap(QRectF(corner, size), shown_, shown_.rect());
 }
 
@@ -170,6 +176,10 @@ void PictureWidget::setName(const QString& name) {
 void PictureWidget::prepare() { picture_.prepare(*this, contentsRect()); }
 
 void PictureWidget::paintEvent(QPaintEvent*) { picture_.draw(*this, contentsRect()); }
+
+void PictureWidget::setDimmed(bool isDimmed) {
+  if (picture_.setDimmed(isDimmed)) update();
+}
 
 void PictureWidget::hideEvent(QHideEvent* event) {
   QLabel::hideEvent(event);
@@ -205,8 +215,8 @@ void PictureButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const bool lit = isEnabled() && (underMouse() || isDown());
-  painter.setPen(QPen(hasFocus() ? theme::kFocus : theme::kInk, (hasFocus() ? 3 : 1.5) * unit));
-  painter.setBrush(lit ? theme::kButtonHover : theme::kButton);
+  painter.setPen(QPen(hasFocus() ? theme::kFocus : theme::kInk, (hasFocus() ? 4 : 1.5) * unit));
+  painter.setBrush(hasFocus() ? theme::kFocusFace : lit ? theme::kButtonHover : theme::kButton);
   painter.drawRoundedRect(QRectF(rect()).adjusted(2 * unit, 2 * unit, -2 * unit, -2 * unit), 5 * unit, 5 * unit);
   painter.end();
   const int inset = Unit::pixels(this, 6);

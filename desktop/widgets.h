@@ -97,6 +97,9 @@ class Picture {
   // Answers whether that is another picture than before.
   bool setName(const QString& name);
   [[nodiscard]] const QString& name() const { return name_; }
+  // Sets it back, as behind a veil; answers whether that is a change.
+  bool setDimmed(bool isDimmed);
+  [[nodiscard]] bool isDimmed() const { return isDimmed_; }
   // Begins to decode the picture for an area of the widget.
   void prepare(const QWidget& widget, QRect area) const;
   void draw(QWidget& widget, QRect area);
@@ -108,6 +111,7 @@ class Picture {
   QString name_;
   QPixmap shown_;
   QSize shownFor_;  // the area of device pixels for which it was decoded
+  bool isDimmed_ = false;
 };
 
 // Shows a picture file.
@@ -116,6 +120,8 @@ class PictureWidget : public QLabel {
   PictureWidget(PictureStore& pictures, QWidget* parent);
 
   void setName(const QString& name);
+  void setDimmed(bool isDimmed);
+  [[nodiscard]] bool isDimmed() const { return picture_.isDimmed(); }
   [[nodiscard]] const QString& name() const { return picture_.name(); }
   // Begins to decode the picture for its next drawing.
   void prepare();

@@ -10,6 +10,7 @@
 
 #include "desktop/form_window.h"
 #include "desktop/picture_store.h"
+#include "desktop/style.h"
 #include "desktop/text_label.h"
 #include "desktop/theme.h"
 #include "desktop/widgets.h"
@@ -91,7 +92,7 @@ inline void keepRoom(QWidget& widget) {
 }
 
 inline void makeBold(QWidget& widget) {
-  widget.setProperty("bold", true);
+  widget.setProperty(kIsBold, true);
   QFont font = widget.font();
   font.setBold(true);
   widget.setFont(font);

@@ -11,9 +11,9 @@ namespace brolgan::desktop {
 namespace {
 
 void addFigure(FormWindow& window, QGridLayout& grid, int row, const std::string& heading, const std::string& value,
-               int column = 0) {
+               int column = 0, Type type = Type::bigFigure) {
   grid.addWidget(&window.at<QLabel>(heading), row, column);
-  grid.addWidget(&figure(window, value, Type::bigFigure), row, column + 1);
+  grid.addWidget(&figure(window, value, type), row, column + 1);
 }
 
 // The monster's card: name, picture and figures.
@@ -40,7 +40,10 @@ QFrame* monster(FormWindow& window) {
 QWidget* hero(FormWindow& window) {
   QWidget& box = window.at("Statystyki");
   QGridLayout& grid = *gridIn(window, box, 14, 2);
-  for (int i = 0; i < 5; ++i) addFigure(window, grid, i, member("label4", i), member("stat", i));
+  // What the hero has at most is smaller than what he has now.
+  for (int i = 0; i < 5; ++i) {
+    addFigure(window, grid, i, member("label4", i), member("stat", i), 0, Type::figure);
+  }
   addFigure(window, grid, 5, "label4(5)", "Inic");
   for (int i = 0; i < 2; ++i) {
     grid.addWidget(&figure(window, member("cur", i), Type::bigFigure), i == 0 ? 0 : 2, 2);

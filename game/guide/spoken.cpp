@@ -4,6 +4,7 @@
 #include <map>
 #include <string_view>
 
+#include "game/guide/look.h"
 #include "game/names/names.h"
 #include "rules/development.h"
 
@@ -196,6 +197,12 @@ bool isToldAnew(const std::string& screen, const std::string& used, const Contro
   const bool dealt = entry.name == "IleZad" || entry.name == "OpisZad";
   const bool taken = entry.name == "IleDMG" || entry.name == "OpisDMG";
   return (used == "Atak" && dealt) || (used == "NastTura" && taken);
+}
+
+bool isGroupGone(const std::string& screen, Form& form) {
+  if (screen != screens::kFight) return false;
+  const std::string& verdict = guide::get<Label>(form, "OpisZad").Caption;
+  return verdict == "Czysto!" || verdict.starts_with("Wygrałeś");
 }
 
 }  // namespace brolgan

@@ -23,4 +23,7 @@ bool isAnnounced(const std::string& screen, const ControlEntry& entry);
 // before: a blow of the same strength falls again.
 bool isToldAnew(const std::string& screen, const std::string& used, const ControlEntry& entry);
 
+// Whether the group of the fight is gone, so that its picture may step back.
+bool isGroupGone(const std::string& screen, Form& form);
+
 }  // namespace brolgan
