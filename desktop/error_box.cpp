@@ -22,7 +22,8 @@ QString textOf(const RuntimeError& error) {
   const QString text = QString::fromUtf8(error.what());
   if (!tellsOfAPath(error.code())) return text;
   const QString name = toQt(error.place().file).replace('\\', '/');
-  return text + "\nFolder: " + QDir::toNativeSeparators(QFileInfo(name).absolutePath());
+  const QString folder = name.isEmpty() ? QDir::currentPath() : QFileInfo(name).absolutePath();
+  return text + "\nFolder: " + QDir::toNativeSeparators(folder);
 }
 
 QString internalError(const QString& what) { return QString::fromUtf8("Błąd wewnętrzny: ") + what; }

@@ -257,6 +257,7 @@ TEST(ErrorBox, SaysWhereAFileWasLookedForWhenItTellsOfAPath) {
     EXPECT_TRUE(textOf(code, "gra.cfg").ends_with("\nPlik: gra.cfg" + lineOfFolder())) << textOf(code, "gra.cfg");
     EXPECT_TRUE(textOf(code, "guit\\hard2.wav").ends_with(lineOfFolder(QDir::currentPath() + "/guit")));
     EXPECT_TRUE(textOf(code, "/dev/zero").ends_with(lineOfFolder("/dev")));
+    EXPECT_TRUE(textOf(code, "").ends_with(lineOfFolder()));
   }
   for (const ErrorCode code : {ErrorCode::overflow, ErrorCode::subscript, ErrorCode::typeMismatch, ErrorCode::pastEnd,
                                ErrorCode::noSuchControl}) {
