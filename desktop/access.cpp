@@ -17,6 +17,11 @@ namespace {
 // What a label says of itself by a property of that name, set to true.
 constexpr const char* kIsNotice = "notice";
 
+// The name that a label was given, else its words; by itself it would take the title of its frame.
+QString nameOf(const QLabel& label) {
+  return label.accessibleName().isEmpty() ? label.text() : label.accessibleName();
+}
+
 // A label that is bought by a click on its name.
 class CheckableLabel : public QAccessibleWidget {
  public:
@@ -30,8 +35,7 @@ class CheckableLabel : public QAccessibleWidget {
   }
   [[nodiscard]] QStringList actionNames() const override { return {toggleAction()}; }
   [[nodiscard]] QString text(QAccessible::Text which) const override {
-    const QString given = QAccessibleWidget::text(which);
-    return which == QAccessible::Name && given.isEmpty() ? label().text() : given;
+    return which == QAccessible::Name ? nameOf(label()) : QAccessibleWidget::text(which);
   }
   void doAction(const QString& action) override {
     if (action == toggleAction() && label().isEnabled()) label().click();
@@ -48,8 +52,7 @@ class Notice : public QAccessibleWidget {
   explicit Notice(QLabel* label) : QAccessibleWidget(label, QAccessible::Notification) {}
 
   [[nodiscard]] QString text(QAccessible::Text which) const override {
-    const QString given = QAccessibleWidget::text(which);
-    return which == QAccessible::Name && given.isEmpty() ? static_cast<QLabel*>(widget())->text() : given;
+    return which == QAccessible::Name ? nameOf(*static_cast<QLabel*>(widget())) : QAccessibleWidget::text(which);
   }
 };
 

@@ -16,7 +16,8 @@ namespace {
 constexpr int kReach = 14;  // How far a widget is drawn from its place at most, in units.
 constexpr qreal kSwings = 2;
 
-// Draws its widget aside from where it stands, until the movement is over; then it is gone.
+// Draws its widget aside from where it stands, within the room that it has, until the movement is over;
+// then it is gone.
 class Movement : public QGraphicsEffect {
  public:
   using Path = qreal (*)(qreal time);  // how far aside, -1 to 1, at a time from 0 to 1
@@ -34,10 +35,6 @@ class Movement : public QGraphicsEffect {
         clock, &QVariantAnimation::finished, &widget, [&widget] { widget.setGraphicsEffect(nullptr); },
         Qt::QueuedConnection);
     clock->start();
-  }
-
-  [[nodiscard]] QRectF boundingRectFor(const QRectF& place) const override {
-    return place.adjusted(-reach_, 0, reach_, 0);
   }
 
  protected:

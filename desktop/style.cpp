@@ -23,6 +23,7 @@ constexpr int kEdge = 2;
 constexpr QMargins kEvenEdge(kEdge, kEdge, kEdge, kEdge);
 // The ring of the keyboard's focus.
 constexpr int kRing = 4;
+constexpr QMargins kFieldRing(kEdge + 1, kEdge + 1, kEdge + 1, kEdge + 1);
 constexpr QMargins kRingEdge(kRing, kRing, kRing, kRing);
 
 // A button stands out by a thicker edge at the right and below.
@@ -132,7 +133,7 @@ void drawField(const QStyleOption& option, QPainter& painter, const QWidget* wid
   const bool isEnabled = has(option, QStyle::State_Enabled);
   draw(painter, option.rect,
        {isEnabled ? face : theme::kDisabledFace, edgeColour(option, theme::kFieldEdge),
-        length.of(has(option, QStyle::State_HasFocus) ? kRaisedEdge : kEvenEdge), length.of(kFieldRadius)});
+        length.of(has(option, QStyle::State_HasFocus) ? kFieldRing : kEvenEdge), length.of(kFieldRadius)});
 }
 
 // The letter that reaches a widget together with Alt, small in its lower right corner.

@@ -160,7 +160,7 @@ TYPED_TEST(StyleOfFields, HaveAnEvenEdgeAndALightFace) {
 TYPED_TEST(StyleOfFields, TurnWhiteWithTheFocus) {
   Shown<TypeParam> shown;
   shown.widget.setFocus();
-  EXPECT_EQ(shown.below(theme::kFocus), 2);
+  EXPECT_EQ(shown.below(theme::kFocus), 3);
   EXPECT_EQ(shown.at(4, 20), theme::kFocusField);
   EXPECT_EQ(shown.at(60, 30), theme::kFocusField);
 }

@@ -1,5 +1,6 @@
 #!/bin/sh
-# The game as it is played starts, shows its first window, and ends when the title is closed.
+# The game as it is played starts, shows its first window, and ends when the title is closed; a turn of it
+# can be followed from what it tells screen readers alone.
 set -eu
 mkdir -p build
 . tools/checks/environment.sh
@@ -18,3 +19,8 @@ wmctrl -F -c 'Brolgan XP version'
 wait $running
 test -s build/played/gra/pierwszy-ekran.png
 echo "the game starts and ends"
+tests/access/run.sh build/played/gra >build/access.log 2>&1 || {
+  tail -n 30 build/access.log
+  exit 1
+}
+tail -n 1 build/access.log
