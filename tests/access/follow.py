@@ -180,7 +180,9 @@ def main():
     game, folder = pathlib.Path(sys.argv[1]).resolve(), pathlib.Path(sys.argv[2]).resolve()
     lay_data(folder)
     bus = Bus()
-    running = subprocess.Popen([game], cwd=folder, env={**os.environ, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"})
+    complaints = folder / "complaints.txt"
+    running = subprocess.Popen([game], cwd=folder, env={**os.environ, "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"},
+                               stderr=complaints.open("w"))
     passed = 0
     try:
         for test in (set_up, creation, start, shop, sheet, preparation, fight):
@@ -189,6 +191,8 @@ def main():
             print("followed:", test.__name__, flush=True)
     finally:
         running.kill()
+    said = complaints.read_text()
+    assert not said, "the game complained on standard error:\n" + said
     print(f"a turn was followed by ear, {passed} screens")
 
 
