@@ -112,7 +112,7 @@ class Session {
   void pick(const QString& list, const QString& text) {
     auto& box = static_cast<QComboBox&>(widget("Fight", list));
     box.setCurrentText(text);
-    emit box.activated(box.currentIndex());
+    Q_EMIT box.activated(box.currentIndex());
     settle();
   }
 
