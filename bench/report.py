@@ -79,6 +79,8 @@ def fill(table, figures):
     bare = median(figures, "floor", "bare change")
     for change in CHANGES:
         table.add_limit(f"{change}, second time", "ms", bare, median(figures, "game", f"change second: {change}"), 16)
+    pulled = median(figures, "game", "change second: frame of the pulled fight")
+    table.add_limit("slowest frame of a window that is pulled", "ms", None, pulled, 16)
     for change in CHANGES:
         game = median(figures, "game", f"change first: {change}")
         table.add(f"{change}, first time", "ms", bare, game, "-", None)

@@ -7,15 +7,12 @@ set -eu
 out=${1:-/dev/stdout}
 case $out in /*) ;; *) out=$PWD/$out ;; esac
 cd "$(dirname "$0")/.."
+. tools/setup/display.sh
 rounds=${ROUNDS:-12}
 build=$PWD/build/bench
 report=$PWD/bench/report.py
 
-missing=
-for package in qt6-base-dev libx11-dev libxdamage-dev libbenchmark-dev xvfb openbox python3 csound; do
-  dpkg-query -W -f '${Status}' $package 2>/dev/null | grep -q 'install ok installed' || missing="$missing $package"
-done
-[ -z "$missing" ] || { echo "These packages are missing:$missing" >&2; exit 1; }
+tools/setup/install.sh play show check
 
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DBROLGAN_TESTS=OFF -DBROLGAN_BENCH=ON >/dev/null
 cmake --build "$build" >&2
@@ -24,21 +21,10 @@ first=
 [ -n "${BENCH_PLAIN:-}" ] || ! chrt -f 5 true 2>/dev/null || first="chrt -f 5"
 
 work=$(mktemp -d)
-trap 'kill ${manager:-} ${server:-} 2>/dev/null || true; rm -rf "$work"' EXIT INT TERM
-$first Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$work/display" >/dev/null 2>&1 &
-server=$!
-waited=0
-until [ -s "$work/display" ]; do
-  waited=$((waited + 1))
-  [ $waited -le 100 ] || { echo "The virtual display does not start." >&2; exit 1; }
-  sleep 0.1
-done
-DISPLAY=:$(cat "$work/display")
+trap 'stop_display; rm -rf "$work"' EXIT INT TERM
 XDG_RUNTIME_DIR=$work
-export DISPLAY XDG_RUNTIME_DIR
-$first openbox >/dev/null 2>&1 &
-manager=$!
-sleep 1
+export XDG_RUNTIME_DIR
+start_display 1366 768 ${first:-env}
 cp -r "$build/gra" "$work/gra"
 cd "$work/gra"
 

@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <algorithm>
+#include <cstdlib>
 #include <stdexcept>
 
 #include "desktop/text.h"
@@ -24,6 +26,7 @@ void Session::play() {
   change("shop to preparation", "CTsklep", "w1", "Prefight");
   prepare();
   change("preparation to fight", "Prefight", "Zakoncz", "Fight");
+  pull("Fight");
   fight();
   face_.window("CTsklep")->close();
   probe_.rest();
@@ -74,6 +77,23 @@ void Session::fight() {
     if (tryChange("fight to shop", "Fight", "CloseDMG", "CTsklep")) return;
   }
   throw std::runtime_error("the fight does not end");
+}
+
+// Makes the window smaller step by step, as a hand at its corner does, and as large as it was.
+void Session::pull(const std::string& form) {
+  constexpr int kFrames = 16;
+  constexpr QSize kStep(24, 13);
+  QWidget& window = *face_.window(form);
+  const QSize before = window.size();
+  double slowestMs = 0;
+  for (int i = kFrames - 1; i >= -kFrames; --i) {
+    const QSize size = before - kStep * (kFrames - std::abs(i));
+    const auto ms = probe_.untilPainted(QString::fromStdString(form), [&] { window.resize(size); });
+    if (!ms) throw std::runtime_error(form + " is not painted when it is pulled");
+    slowestMs = std::max(slowestMs, *ms);
+  }
+  listener_("frame of the pulled fight", slowestMs);
+  probe_.rest();
 }
 
 void Session::change(const std::string& change, const std::string& form, const char* control, const char* to) {

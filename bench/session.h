@@ -13,7 +13,8 @@ namespace brolgan::bench {
 
 class Session {
  public:
-  // Hears of every change of screen, by its name, and how long it took.
+  // Hears of every change of screen and of the slowest frame of a pulled window, by its name, and how
+  // long it took.
   using Listener = std::function<void(const std::string& change, double ms)>;
 
   Session(Probe& probe, Runtime& runtime, desktop::Face& face, Listener listener)
@@ -35,6 +36,7 @@ class Session {
   void visitShop();
   void prepare();
   void fight();
+  void pull(const std::string& form);
   [[nodiscard]] QWidget* widget(const std::string& form, const std::string& control) const;
 
   Probe& probe_;

@@ -2,13 +2,19 @@
 # folder in which the game runs. Sets the target brolgan_sounds. Without csound the target is
 # empty and the game is silent.
 #
-# Run as a script (cmake -D CSOUND= -D SOURCE= -D WAV= -P sounds.cmake) this file renders one sound.
+# An effect is rendered three times, as NAME.wav, NAME-2.wav and NAME-3.wav, struck anew each time:
+# VARIANT sets what comes by chance, PACE the beats a minute (60 as written). The fanfare is heard
+# once a game and rendered once; each piece of music has a source of its own.
+#
+# Run as a script (cmake -D CSOUND= -D SOURCE= -D VARIANT= -D PACE= -D WAV= -P sounds.cmake) this
+# file renders one sound.
 # csound leaves a WAV behind when it fails, and calls a score with broken notes a success: the
 # sound gets its name only when all of its notes were played.
 if(CMAKE_SCRIPT_MODE_FILE)
   set(unfinished ${WAV}.unfinished)
   file(REMOVE ${WAV} ${unfinished})
-  execute_process(COMMAND ${CSOUND} -o ${unfinished} ${SOURCE}
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C ${CSOUND}
+      --omacro:VARIANT=${VARIANT} --smacro:PACE=${PACE} -o ${unfinished} ${SOURCE}
     INPUT_FILE /dev/null OUTPUT_VARIABLE log ERROR_VARIABLE log RESULT_VARIABLE result)
   string(ASCII 27 escape)
   string(REGEX REPLACE "${escape}\\[[0-9;]*m" "" log "${log}")
@@ -31,24 +37,35 @@ endif()
 
 find_program(BROLGAN_CSOUND csound DOC "csound 6, renders the sounds of the game")
 set(sounds)
-if(BROLGAN_CSOUND)
-  set(here ${CMAKE_CURRENT_LIST_DIR}/../assets/sounds)
+
+# Adds the rendering of assets/sounds/SOURCE.csd as NAME.wav.
+function(brolgan_render source name variant pace)
+  set(here ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../assets/sounds)
   cmake_path(NORMAL_PATH here)
-  file(GLOB sources CONFIGURE_DEPENDS ${here}/*.csd)
+  set(wav ${BROLGAN_RUN_DIR}/${name}.wav)
+  add_custom_command(OUTPUT ${wav}
+    COMMAND ${CMAKE_COMMAND} -D CSOUND=${BROLGAN_CSOUND} -D SOURCE=${here}/${source}.csd
+      -D VARIANT=${variant} -D PACE=${pace} -D WAV=${wav} -P ${CMAKE_CURRENT_FUNCTION_LIST_FILE}
+    DEPENDS ${here}/${source}.csd ${here}/lib.inc ${here}/pace.inc
+    COMMENT "Rendering ${name}.wav"
+    VERBATIM)
+  set(sounds ${sounds} ${wav} PARENT_SCOPE)
+endfunction()
+
+if(BROLGAN_CSOUND)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/../assets/sounds/*.csd)
   file(MAKE_DIRECTORY ${BROLGAN_RUN_DIR}/guit)
   foreach(source IN LISTS sources)
     cmake_path(GET source STEM name)
-    if(name STREQUAL "hard2")
-      set(name guit/hard2)
+    if(name MATCHES "^hard2")
+      brolgan_render(${name} guit/${name} 1 60)
+    else()
+      brolgan_render(${name} ${name} 1 60)
+      if(NOT name STREQUAL "wygr")
+        brolgan_render(${name} ${name}-2 2 57)
+        brolgan_render(${name} ${name}-3 3 63)
+      endif()
     endif()
-    set(wav ${BROLGAN_RUN_DIR}/${name}.wav)
-    add_custom_command(OUTPUT ${wav}
-      COMMAND ${CMAKE_COMMAND} -D CSOUND=${BROLGAN_CSOUND} -D SOURCE=${source} -D WAV=${wav}
-        -P ${CMAKE_CURRENT_LIST_FILE}
-      DEPENDS ${source} ${here}/lib.inc
-      COMMENT "Rendering ${name}.wav"
-      VERBATIM)
-    list(APPEND sounds ${wav})
   endforeach()
 else()
   message(STATUS "csound not found: no sounds are rendered, the game is silent")

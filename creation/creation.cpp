@@ -7,6 +7,12 @@
 
 namespace brolgan {
 
+namespace {
+
+int stepPrice(int statistic) { return statistic == kLives ? kCreationLifePrice : kCreationStepPrice; }
+
+}  // namespace
+
 CTmhero::CTmhero(Runtime& runtime) : DevelopmentForm(runtime) {
   Caption = "Tworzenie bohatera";
   Label1.Caption = "Tworzenie bohatera";
@@ -42,7 +48,6 @@ CTmhero::CTmhero(Runtime& runtime) : DevelopmentForm(runtime) {
 }
 
 void CTmhero::Form_Load() {
-  for (int i = 0; i < kStatistics; ++i) PoziomyMax(i) = kStatisticTable[i].top();
   ItemReader in = runtime_.OpenForInput(kMakeHeroFile);
   Plik.Text = in.string("Plik");
   Ile_jeszcze.Caption = decimal(in.integer("Ile_jeszcze"));
@@ -69,25 +74,16 @@ void CTmhero::PLUS_Click(int index) {
   if (points() <= 0) return;
   if (index > kLives) {
     addSupply(index - kStatistics);
-  } else if (index == kLives) {
-    addStep(kLives, kCreationLifePrice);
   } else {
-    addStep(index, kCreationStepPrice);
+    addStep(index, stepPrice(index));
   }
-}
-
-void CTmhero::addStep(int statistic, int price) {
-  if (points() < price || bohater.Poziomy(statistic) >= PoziomyMax(statistic)) return;
-  bohater.Poziomy(statistic) += 1;
-  StatMark_Plus(statistic);
-  setPoints(points() - price);
 }
 
 void CTmhero::MINUS_Click(int index) {
   if (index > kLives) {
     takeSupply(index - kStatistics);
   } else {
-    takeStep(index, index == kLives ? kCreationLifePrice : kCreationStepPrice);
+    takeStep(index, stepPrice(index));
   }
 }
 
@@ -144,8 +140,9 @@ void CTmhero::Czarn_Click(int index) { toggle(bohater.MaCzar(index), czarc[index
 
 void CTmhero::Spec_Click(int index) { toggle(MaSpec(index), Speccena[index], Spec[index]); }
 
-std::string CTmhero::describe(const BronRecord& ranged) const {
-  return describeRanged(ranged) + (ranged.nazwa == kUltiGun ? kUltiGunWarning : "");
+std::string CTmhero::describe(WeaponKind kind, const BronRecord& weapon) const {
+  const bool warned = kind == WeaponKind::ranged && weapon.nazwa == kUltiGun;
+  return describeWeapon(weapon) + (warned ? kUltiGunWarning : "");
 }
 
 int CTmhero::chosenClass() const {
@@ -158,7 +155,8 @@ void CTmhero::Save_Click() {
   if (points() < 0) return;
   ItemWriter out = runtime_.OpenForOutput(Plik.Text);
   writeBeginning(out);
-  writeWeapons(out);
+  grantBonuses();
+  writeWeapons(out, bohater);
   writeGoods(out);
   writeHistory(out);
   out.close();
@@ -174,27 +172,17 @@ void CTmhero::writeBeginning(ItemWriter& out) {
   out.string(Klasa[chosenClass()].Caption);
   out.integer(ladderValue(kEndurance, bohater.Poziomy(kEndurance)));
   out.integer(ladderValue(kPower, bohater.Poziomy(kPower)));
-  for (const Statistic statistic : {kEndurance, kArmour, kPower, kSpeed, kRegeneration}) {
-    out.integer(bohater.Poziomy(statistic));
-    out.integer(ladderValue(statistic, bohater.Poziomy(statistic)));
-  }
-  out.integer(bohater.Poziomy(kModifier));
-  writeOnOneLine(out, modifierDice(bohater.Poziomy(kModifier)));
-  out.integer(bohater.Poziomy(kLives));
-  out.integer(ladderValue(kLives, bohater.Poziomy(kLives)));
+  writeStatistics(out, 0, ladderValue(kLives, bohater.Poziomy(kLives)));
 }
 
 // MEANT(bonus-on-all): a class's bonus stands on all ten weapons of its kind, owned or not.
-void CTmhero::writeWeapons(ItemWriter& out) {
+void CTmhero::grantBonuses() {
   const ClassRow& grants = kClassTable[chosenClass()];
-  for (int i = 0; i < 10; ++i) {
-    bohater.BronwwProc(i) = grants.meleePercent;
-    bohater.BronwwPlus(i) = grants.plus;
-    bohater.BronssProc(i) = grants.rangedPercent;
-    bohater.BronssPlus(i) = grants.plus;
+  for (const WeaponKind kind : kWeaponKinds) {
+    const auto slots = bohater.slots(kind);
+    for (Integer& percent : slots.percent) percent = grants.percent(kind);
+    for (Integer& plus : slots.plus) plus = grants.plus;
   }
-  writeMelee(out, bohater);
-  writeRanged(out, bohater);
 }
 
 // MEANT(fifth-flag-written): five gear flags and sixteen zeros stand where readers take four flags and seventeen
@@ -226,8 +214,8 @@ void CTmhero::listControls(ControlTable& table) {
   table.addMember("Label4", 0, Label4[0], &fstat);
   listLadders(table);
   for (int i = 0; i < kStatistics; ++i) {
-    table.addMember("PLUS", i, PLUS[i], &fstat);
     table.addMember("MINUS", i, MINUS[i], &fstat);
+    table.addMember("PLUS", i, PLUS[i], &fstat);
   }
   listMelee(table);
   table.add("Sprzedajww", Sprzedajww, &fbron);
@@ -240,8 +228,8 @@ void CTmhero::listControls(ControlTable& table) {
   table.add("ammo", ammo, &Frame4);
   table.add("wyp", wyp, &Frame4);
   for (int i = kStatistics; i < static_cast<int>(PLUS.size()); ++i) {
-    table.addMember("PLUS", i, PLUS[i], &Frame4);
     table.addMember("MINUS", i, MINUS[i], &Frame4);
+    table.addMember("PLUS", i, PLUS[i], &Frame4);
   }
   table.add("Spec", Spec, &Frame4);
   table.add("Speccena", Speccena, &Frame4);

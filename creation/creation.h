@@ -19,13 +19,13 @@ class CTmhero : public DevelopmentForm {
   std::array<PictureBox, 3> pics;
   Frame Frame6;
   std::array<OptionButton, kClasses> Klasa;
-  std::array<CommandButton, 9> MINUS;
+  std::array<CommandButton, kDevelopmentRows> MINUS;
   CommandButton Sprzedajww{"Sprzedaj"};
   CommandButton Sprzedajss{"Sprzedaj"};
 
  protected:
   void listControls(ControlTable& table) override;
-  std::string describe(const BronRecord& ranged) const override;
+  std::string describe(WeaponKind kind, const BronRecord& weapon) const override;
 
  private:
   void Klasa_Click(int index);
@@ -38,7 +38,6 @@ class CTmhero : public DevelopmentForm {
   void Save_Click();
 
   void StatMark_Minus(int statistic);
-  void addStep(int statistic, int price);
   void takeStep(int statistic, int price);
   void takeSupply(int supply);
   void sell(bool& owned, Integer price, Label& mark);
@@ -46,14 +45,13 @@ class CTmhero : public DevelopmentForm {
 
   [[nodiscard]] int chosenClass() const;
   void writeBeginning(ItemWriter& out);
-  void writeWeapons(ItemWriter& out);
+  void grantBonuses();
   void writeGoods(ItemWriter& out);
   void writeHistory(ItemWriter& out);
 
   bool SatrapaDodane = false;
-  Array<Integer, kStatistics> PoziomyMax;
   // The gear of a new hero; the fifth has no control and stays unowned.
-  Array<bool, 5> MaSpec;
+  Array<bool, kGear + 1> MaSpec;
 };
 
 }  // namespace brolgan

@@ -5,17 +5,13 @@
 
 namespace brolgan {
 
-// The controls and data of one of the two weapon lists.
 struct DevelopmentForm::Desk {
   ListBox& list;
   Label& nazwa;
   Label& dmg;
   Label& cena;
-  Array<BronRecord, 11>& catalogue;
-  Array<bool, 10>& owned;
+  Label& opis;
   Integer& chosen;
-
-  [[nodiscard]] const BronRecord& weapon() const { return catalogue(chosen); }
 };
 
 DevelopmentForm::DevelopmentForm(Runtime& runtime) : runtime_(runtime) {
@@ -27,6 +23,7 @@ DevelopmentForm::DevelopmentForm(Runtime& runtime) : runtime_(runtime) {
 
 void DevelopmentForm::designLadders() {
   for (int i = 0; i < kStatistics; ++i) {
+    PoziomyMax(i) = kStatisticTable[i].top();
     Label5[i].Caption = kStatisticTable[i].name;
     Label5[i].ToolTipText = kStatisticTips[i];
     const auto labels = ladder(i);
@@ -86,11 +83,19 @@ void DevelopmentForm::StatMark_Plus(int statistic) {
   ladder(statistic)[step - 1].ForeColor = Colour::red;
 }
 
+void DevelopmentForm::addStep(int statistic, int price) {
+  if (points() < price || bohater.Poziomy(statistic) >= PoziomyMax(statistic)) return;
+  bohater.Poziomy(statistic) += 1;
+  StatMark_Plus(statistic);
+  setPoints(points() - price);
+}
+
 void DevelopmentForm::Bron_Lista() {
-  LBronww.Clear();
-  for (int i = 0; i < katalog.IleWw.value(); ++i) LBronww.AddItem(katalog.KatalogWw(i).nazwa);
-  Lbronss.Clear();
-  for (int i = 0; i < katalog.IleSs.value(); ++i) Lbronss.AddItem(katalog.KatalogSs(i).nazwa);
+  for (const WeaponKind kind : kWeaponKinds) {
+    ListBox& list = desk(kind).list;
+    list.Clear();
+    for (int i = 0; i < katalog.count(kind).value(); ++i) list.AddItem(katalog.weapons(kind)(i).nazwa);
+  }
 }
 
 void DevelopmentForm::addSupply(int supply) {
@@ -99,16 +104,30 @@ void DevelopmentForm::addSupply(int supply) {
   setPoints(points() - kSupplyPrice);
 }
 
+// MEANT(values-from-ladders): values come from the ladders and the modifier's dice from its step, whatever a file
+// said; only the endurance lost for good is kept.
+void DevelopmentForm::writeStatistics(ItemWriter& out, Integer lostEndurance, Integer lives) const {
+  for (const Statistic statistic : {kEndurance, kArmour, kPower, kSpeed, kRegeneration}) {
+    const Integer step = bohater.Poziomy(statistic);
+    const int lost = statistic == kEndurance ? lostEndurance.value() : 0;
+    out.integer(step);
+    out.rounded(ladderValue(statistic, step).value() - lost, {"Wartosci", statistic});
+  }
+  out.integer(bohater.Poziomy(kModifier));
+  writeOnOneLine(out, modifierDice(bohater.Poziomy(kModifier)));
+  out.integer(bohater.Poziomy(kLives));
+  out.integer(lives);
+}
+
 void DevelopmentForm::writeSupplies(ItemWriter& out) const {
   for (int i = 0; i < kSupplies; ++i) out.rounded(static_cast<double>(number(wyp[i])), {"Wyp", i});
 }
 
-bool DevelopmentForm::buy(bool& owned, std::int64_t price, Label& mark) {
-  if (owned || points() < price) return false;
+void DevelopmentForm::buy(bool& owned, std::int64_t price, Label& mark) {
+  if (owned || points() < price) return;
   setPoints(points() - price);
   owned = true;
   mark.ForeColor = Colour::red;
-  return true;
 }
 
 void DevelopmentForm::markOwned(Label& label, bool owned) {
@@ -117,46 +136,32 @@ void DevelopmentForm::markOwned(Label& label, bool owned) {
 
 std::int64_t DevelopmentForm::number(const Label& label) { return wholeNumber(label.Caption); }
 
-DevelopmentForm::Desk DevelopmentForm::meleeDesk() {
-  return {LBronww, BWnazwa, BWdmg, BWcena, katalog.KatalogWw, bohater.MaBronww, WybranaWw};
-}
-
-DevelopmentForm::Desk DevelopmentForm::rangedDesk() {
-  return {Lbronss, BSnazwa, BSdmg, BScena, katalog.KatalogSs, bohater.MaBronss, WybranaSs};
+DevelopmentForm::Desk DevelopmentForm::desk(WeaponKind kind) {
+  if (kind == WeaponKind::ranged) return {Lbronss, BSnazwa, BSdmg, BScena, BSopis, WybranaSs};
+  return {LBronww, BWnazwa, BWdmg, BWcena, BWopis, WybranaWw};
 }
 
 // Finds the record behind the selected row, the first of its name, and shows it.
-bool DevelopmentForm::choose(Desk desk) {
-  const std::string text = desk.list.Text();
-  if (text.empty()) return false;
-  desk.chosen = 0;
-  while (desk.weapon().nazwa != text) desk.chosen += 1;
-  desk.nazwa.Caption = desk.weapon().nazwa;
-  desk.dmg.Caption = OpisKosci(desk.weapon().kostka);
-  desk.cena.Caption = decimal(desk.weapon().cena);
-  return true;
-}
-
-void DevelopmentForm::LBronww_Click() {
-  if (!choose(meleeDesk())) return;
-  BWopis.Caption = describeMelee(katalog.KatalogWw(WybranaWw));
-  markOwned(BWnazwa, bohater.MaBronww(WybranaWw));
-}
-
-void DevelopmentForm::Lbronss_Click() {
-  if (!choose(rangedDesk())) return;
-  BSopis.Caption = describe(katalog.KatalogSs(WybranaSs));
-  markOwned(BSnazwa, bohater.MaBronss(WybranaSs));
+void DevelopmentForm::chooseWeapon(WeaponKind kind) {
+  const Desk at = desk(kind);
+  const std::string text = at.list.Text();
+  if (text.empty()) return;
+  const auto& weapons = katalog.weapons(kind);
+  at.chosen = 0;
+  while (weapons(at.chosen).nazwa != text) at.chosen += 1;
+  const BronRecord& weapon = weapons(at.chosen);
+  at.nazwa.Caption = weapon.nazwa;
+  at.dmg.Caption = OpisKosci(weapon.kostka);
+  at.cena.Caption = decimal(weapon.cena);
+  at.opis.Caption = describe(kind, weapon);
+  markOwned(at.nazwa, bohater.slots(kind).owned(at.chosen));
 }
 
 // MEANT(purchase-unclicked): the selection starts at 0, so a purchase before any click is of the first weapon.
-void DevelopmentForm::buyWeapon(const Desk& desk) {
-  buy(desk.owned(desk.chosen), desk.weapon().cena.value(), desk.nazwa);
+void DevelopmentForm::buyWeapon(WeaponKind kind) {
+  const Desk at = desk(kind);
+  buy(bohater.slots(kind).owned(at.chosen), katalog.weapons(kind)(at.chosen).cena.value(), at.nazwa);
 }
-
-void DevelopmentForm::Kupww_Click() { buyWeapon(meleeDesk()); }
-
-void DevelopmentForm::Kupss_Click() { buyWeapon(rangedDesk()); }
 
 void DevelopmentForm::listLadders(ControlTable& table) {
   table.add("Label5", Label5, &fstat);

@@ -14,6 +14,9 @@
 
 namespace brolgan {
 
+// What is bought step by step: the statistics and behind them the supplies.
+inline constexpr int kDevelopmentRows = int{kStatistics} + int{kSupplies};
+
 class DevelopmentForm : public Form {
  public:
   Label Label1;
@@ -33,7 +36,7 @@ class DevelopmentForm : public Form {
   std::array<Label, 5> stat5;
   std::array<Label, 5> stat6;
   std::array<Label, 6> stat7;
-  std::array<CommandButton, 9> PLUS;
+  std::array<CommandButton, kDevelopmentRows> PLUS;
 
   Frame fbron;
   Label Label3{"Bronie"};
@@ -83,22 +86,28 @@ class DevelopmentForm : public Form {
   // Moves the red mark of a ladder to the step that Poziomy holds, from the step below.
   void StatMark_Plus(int statistic);
 
+  // Goes a step up a ladder for that price, if it can be paid and the ladder has one more.
+  void addStep(int statistic, int price);
+
   // Fills the two lists from the catalogue.
   void Bron_Lista();
   // Buys one purchase of a supply by its index in wyp; the points are not tested here.
   void addSupply(int supply);
-  // Writes the counts of the supplies; raises 6 for one beyond the range of an Integer.
+  // Writes steps and values of all statistics, lines 6 to 19 of the hero file. Raises an overflow
+  // for an endurance beyond the range of an Integer.
+  void writeStatistics(ItemWriter& out, Integer lostEndurance, Integer lives) const;
+  // Writes the counts of the supplies; raises an overflow for one beyond the range of an Integer.
   void writeSupplies(ItemWriter& out) const;
-  // Buys what is not owned yet and can be paid. Answers whether it was bought.
-  bool buy(bool& owned, std::int64_t price, Label& mark);
+  // Buys what is not owned yet and can be paid.
+  void buy(bool& owned, std::int64_t price, Label& mark);
   static void markOwned(Label& label, bool owned);
   static std::int64_t number(const Label& label);
 
-  // Hooks for what differs: the clicks on a spell, an item and a PLUS, and the remark on a weapon.
+  // Hooks for what differs: the clicks on a spell, an item and a PLUS, and the description of a weapon.
   virtual void Czarn_Click(int index) = 0;
   virtual void Spec_Click(int index) = 0;
   virtual void PLUS_Click(int index) = 0;
-  virtual std::string describe(const BronRecord& ranged) const { return describeRanged(ranged); }
+  virtual std::string describe(WeaponKind, const BronRecord& weapon) const { return describeWeapon(weapon); }
 
   // The controls of a department, in the order of the keyboard.
   void listLadders(ControlTable& table);
@@ -108,21 +117,23 @@ class DevelopmentForm : public Form {
 
   Runtime& runtime_;
   Bohater bohater;
-  Catalogue<11> katalog;
+  Catalogue<kShelfPlaces> katalog;
+  Array<Integer, kStatistics> PoziomyMax;
   Integer WybranaWw;
   Integer WybranaSs;
 
  private:
   struct Desk;
 
-  void LBronww_Click();
-  void Lbronss_Click();
-  void Kupww_Click();
-  void Kupss_Click();
-  Desk meleeDesk();
-  Desk rangedDesk();
-  static bool choose(Desk desk);
-  void buyWeapon(const Desk& desk);
+  void LBronww_Click() { chooseWeapon(WeaponKind::melee); }
+  void Lbronss_Click() { chooseWeapon(WeaponKind::ranged); }
+  void Kupww_Click() { buyWeapon(WeaponKind::melee); }
+  void Kupss_Click() { buyWeapon(WeaponKind::ranged); }
+
+  // The controls and data of one of the two weapon lists, and what is done there.
+  Desk desk(WeaponKind kind);
+  void chooseWeapon(WeaponKind kind);
+  void buyWeapon(WeaponKind kind);
 
   void designLadders();
   void designSpells();

@@ -9,7 +9,9 @@
 #include <QSignalBlocker>
 
 #include "desktop/picture_store.h"
+#include "desktop/style.h"
 #include "desktop/text.h"
+#include "desktop/text_label.h"
 #include "desktop/theme.h"
 #include "desktop/widgets.h"
 
@@ -38,7 +40,8 @@ struct Maker {
   const Gestures& gestures;
 
   QWidget* operator()(const Label* label) const {
-    QLabel* widget = label->Click ? new ClickLabel(gestures.click, parent) : new QLabel(parent);
+    QLabel* widget =
+        label->Click ? static_cast<QLabel*>(new ClickLabel(gestures.click, parent)) : new TextLabel(parent);
     widget->setTextFormat(Qt::PlainText);
     widget->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     return widget;
@@ -55,7 +58,7 @@ struct Maker {
   }
 
   QWidget* operator()(const OptionButton*) const {
-    auto* widget = new QRadioButton(parent);
+    auto* widget = new OptionRow(parent);
     QObject::connect(widget, &QRadioButton::clicked, widget, gestures.click);
     return widget;
   }
@@ -76,7 +79,7 @@ struct Maker {
   }
 
   QWidget* operator()(const ListBox*) const {
-    auto* widget = new QListWidget(parent);
+    auto* widget = new RowList(parent);
     const auto select = gestures.select;
     QObject::connect(widget, &QListWidget::itemSelectionChanged, widget, [widget, select] {
       if (!widget->selectedItems().isEmpty()) select(widget->currentRow());
@@ -102,7 +105,8 @@ struct Maker {
   }
 };
 
-// Red text is bold, so that it stays readable on the light panels.
+// Red text is bold, so that it stays readable on the light panels, and underlined, so that it is told by
+// more than its colour.
 void setColour(QWidget& widget, Colour colour) {
   const QColor wanted = theme::colourOf(colour);
   QPalette palette = widget.palette();
@@ -110,7 +114,8 @@ void setColour(QWidget& widget, Colour colour) {
   for (const auto group : {QPalette::Active, QPalette::Inactive}) palette.setColor(group, QPalette::WindowText, wanted);
   widget.setPalette(palette);
   QFont font = widget.font();
-  font.setBold(colour == Colour::red || widget.property("bold").toBool());
+  font.setBold(colour == Colour::red || widget.property(kIsBold).toBool());
+  font.setUnderline(colour == Colour::red);
   widget.setFont(font);
 }
 
@@ -124,18 +129,12 @@ void mirrorRows(const Rows& rows, QComboBox& widget) {
   if (!same || widget.currentIndex() != rows.ListIndex()) widget.setCurrentIndex(rows.ListIndex());
 }
 
-// A row tall enough for capitals with accents.
-void addRow(QListWidget& widget, const QString& text) {
-  auto* row = new QListWidgetItem(text, &widget);
-  row->setSizeHint({0, widget.fontMetrics().lineSpacing() + 4});
-}
-
 void mirrorRows(const Rows& rows, QListWidget& widget) {
   bool same = widget.count() == rows.ListCount();
   for (int i = 0; same && i < rows.ListCount(); ++i) same = widget.item(i)->text() == toQt(rows.List(i));
   if (!same) {
     widget.clear();
-    for (int i = 0; i < rows.ListCount(); ++i) addRow(widget, toQt(rows.List(i)));
+    for (int i = 0; i < rows.ListCount(); ++i) widget.addItem(toQt(rows.List(i)));
   }
   if (rows.ListIndex() < 0) {
     widget.clearSelection();
@@ -158,11 +157,18 @@ struct Mirror {
   void operator()(const TextBox* box) const {
     const QString text = toQt(box->Text);
     if (auto* notes = qobject_cast<QPlainTextEdit*>(&widget)) {
-      if (notes->toPlainText() != text) notes->setPlainText(text);
+      if (notes->toPlainText() != text) {
+        notes->setPlainText(text);
+        notes->moveCursor(QTextCursor::End);  // A person's words go behind those of the game.
+      }
       return;
     }
     auto& shown = static_cast<QLineEdit&>(widget);
-    if (shown.text() != text) shown.setText(text);
+    if (shown.text() != text) {
+      shown.setText(text);
+      // What is only read shows its beginning.
+      if (box->Locked) shown.setCursorPosition(0);
+    }
     shown.setReadOnly(box->Locked);
     shown.setFocusPolicy(box->TabStop ? Qt::StrongFocus : Qt::ClickFocus);
   }

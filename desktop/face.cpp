@@ -2,32 +2,31 @@
 
 #include <QCoreApplication>
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <QScreen>
 #include <QTimer>
+#include <cstdio>
 
+#include "desktop/access.h"
+#include "desktop/error_box.h"
 #include "desktop/picture_store.h"
 #include "desktop/text.h"
 #include "flow/stage/hands.h"
-#include "flow/text/runtime_error.h"
 #include "game/names/names.h"
 
 namespace brolgan::desktop {
 
 namespace {
 
-// The title stays behind and the sheet beside; the other screens take each other's place.
-bool takesTurns(const std::string& name) { return name != "Brolgan" && name != "FHero"; }
-
-// About what a window manager adds above a window and on its other sides.
-constexpr int kFrameTop = 26;
-constexpr int kFrameSide = 4;
-
 const ControlEntry& entryOf(Form& form, std::size_t index) { return form.controls().entries()[index]; }
 
 }  // namespace
 
-Face::Face(Runtime& runtime, PictureStore& pictures) : runtime_(runtime), pictures_(pictures) {}
+Face::Face(Runtime& runtime, PictureStore& pictures) : runtime_(runtime), pictures_(pictures) {
+  installAccess();
+  // What Qt itself does with the windows of a screen that goes comes first.
+  connect(
+      qGuiApp, &QGuiApplication::screenRemoved, this, [this] { rescueWindows(); }, Qt::QueuedConnection);
+}
 
 Face::~Face() = default;
 
@@ -44,22 +43,21 @@ void Face::act(const std::function<void()>& doing) {
   if (over_) return;
   try {
     doing();
-  } catch (const RuntimeError& error) {
-    fail(error.what());
-    return;
+    synchronize();
+  } catch (...) {
+    fail(std::current_exception());
   }
-  synchronize();
 }
 
-// The one message box of the game; behind it the program ends.
-void Face::fail(const char* text) {
+// Tells of the first error in the one message box of the game; behind it the program ends.
+void Face::fail(const std::exception_ptr& error) {
+  if (over_) return;
   over_ = true;
   runtime_.End();
-  const QString message = QString::fromUtf8(text);
-  if (onError) {
-    onError(message);
-  } else {
-    QMessageBox(QMessageBox::Critical, QString::fromUtf8("Błąd"), message, QMessageBox::Ok).exec();
+  try {
+    onError ? onError(errorText(error)) : showErrorBox(errorText(error));
+  } catch (const std::exception& second) {  // Not even the box could be made.
+    std::fprintf(stderr, "%s\n", second.what());
   }
   QCoreApplication::exit(1);
 }
@@ -76,7 +74,7 @@ void Face::synchronize() {
   releaseGone();
   if (makeWindow()) {
     QMetaObject::invokeMethod(
-        this, [this] { synchronize(); }, Qt::QueuedConnection);
+        this, [this] { act([] {}); }, Qt::QueuedConnection);
     return;
   }
   showOpened();
@@ -88,7 +86,7 @@ bool Face::makeWindow() {
   for (const std::string& name : runtime_.loaded()) {
     Form& opened = *form(name);
     if (!opened.Visible || windows_.contains(name)) continue;
-    windows_[name] = std::make_unique<FormWindow>(name, opened, pictures_, events());
+    windows_[name] = std::make_unique<FormWindow>(name, opened, pictures_, events(), unitOfNext());
     return true;
   }
   return false;
@@ -105,7 +103,7 @@ void Face::hideClosed() {
   for (const auto& [name, window] : windows_) {
     const Form* const shown = form(name);
     if (window->isVisible() && (shown == nullptr || !shown->Visible)) {
-      if (takesTurns(name)) rememberPlace(*window);
+      places_.remember(*window);
       window->leaveScreen();
     }
   }
@@ -123,33 +121,34 @@ void Face::show(const std::string& name, Form& shown) {
   const bool isFresh = window.form() != &shown;
   isFresh ? window.bind(shown) : window.mirrorAll();
   if (window.isVisible() && !isFresh) return;
-  if (!window.isVisible()) place(name, window);
+  if (!window.isVisible()) places_.place(window, inTurn(&window));
   window.show();
   window.preparePictures();
   window.raise();
   window.activateWindow();
-  window.focusFirst();
+  window.focusOn(hands_[name].begin(name, shown));
 }
 
-void Face::rememberPlace(const FormWindow& window) { lastPlace_ = window.geometry().topLeft(); }
-
-// A screen appears where the last one stood. The title keeps to the top and the first screen to the
-// bottom, so that neither hides the other; the sheet opens at the right edge.
-void Face::place(const std::string& name, FormWindow& window) {
-  for (const auto& [other, open] : windows_) {
-    if (takesTurns(name) && takesTurns(other) && open->isVisible()) rememberPlace(*open);
+// The screen that is in turn: what opens takes its place, or stands beside it.
+const FormWindow* Face::inTurn(const FormWindow* next) const {
+  for (const auto& [name, window] : windows_) {
+    const Place place = window->layoutOf().place;
+    const bool isInTurn = place == Place::turn || place == Place::bottom;
+    if (isInTurn && window.get() != next && window->isVisible()) return window.get();
   }
-  const QRect screen = window.screen()->availableGeometry();
-  const QSize size = window.size().expandedTo(window.minimumSizeHint());
-  QPoint corner = screen.center() - QPoint(size.width() / 2, size.height() / 2);
-  if (name == "Brolgan") corner.setY(screen.top());
-  if (name == "Main") corner.setY(screen.bottom());
-  if (name == "FHero") corner = {screen.right() - size.width() - 24, screen.top() + 48};
-  if (takesTurns(name) && lastPlace_) corner = *lastPlace_;
-  const QRect room = screen.adjusted(kFrameSide, kFrameTop, -kFrameSide, -kFrameSide);
-  corner.setX(std::max(room.left(), std::min(corner.x(), room.right() - size.width() + 1)));
-  corner.setY(std::max(room.top(), std::min(corner.y(), room.bottom() - size.height() + 1)));
-  window.setGeometry(QRect(corner, size));
+  return nullptr;
+}
+
+qreal Face::unitOfNext() const {
+  const FormWindow* const before = inTurn(nullptr);
+  if (before != nullptr && before->layoutOf().takesTurns()) return before->unit().value();
+  return Places::unitOn(before == nullptr ? *QGuiApplication::primaryScreen() : *before->screen());
+}
+
+void Face::rescueWindows() {
+  for (const auto& [name, window] : windows_) {
+    if (window->isVisible()) Places::rescue(*window);
+  }
 }
 
 // The form that a person sees in the window of that name. While the next window is being made, one may
@@ -164,12 +163,10 @@ Form* Face::formInSight(const std::string& name) const {
 FormWindow::Events Face::events() {
   FormWindow::Events events;
   events.click = [this](const std::string& name, std::size_t index) {
-    Form* const target = formInSight(name);
-    if (target != nullptr) act([&] { click(runtime_, *target, entryOf(*target, index)); });
+    use(name, index, [this, index](Form& target) { click(runtime_, target, entryOf(target, index)); });
   };
   events.select = [this](const std::string& name, std::size_t index, int row) {
-    Form* const target = formInSight(name);
-    if (target != nullptr) act([&] { select(runtime_, entryOf(*target, index), row); });
+    use(name, index, [this, index, row](Form& target) { select(runtime_, entryOf(target, index), row); });
   };
   events.type = [this](const std::string& name, std::size_t index, const QString& text) {
     Form* const target = formInSight(name);
@@ -178,7 +175,34 @@ FormWindow::Events Face::events() {
   events.close = [this](const std::string& name) {
     if (formInSight(name) != nullptr) act([&] { closeWindow(runtime_, name); });
   };
+  events.escape = [this](const std::string& name) {
+    Form* const target = formInSight(name);
+    const std::string control = target == nullptr ? std::string() : escapeControl(name, *target);
+    if (control.empty()) return;
+    const auto& entries = target->controls().entries();
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+      if (entries[i].fullName() == control) {
+        use(name, i, [this, i](Form& form) { click(runtime_, form, entryOf(form, i)); });
+        return;
+      }
+    }
+  };
   return events;
+}
+
+void Face::use(const std::string& name, std::size_t index, const std::function<void(Form&)>& doing) {
+  Form* const target = formInSight(name);
+  if (target == nullptr) return;
+  const std::string used = entryOf(*target, index).fullName();
+  const std::string focused = window(name)->focused();
+  window(name)->expectNews(used);
+  act([&] { doing(*target); });
+  if (form(name) == target) follow(name, used, focused);
+}
+
+void Face::follow(const std::string& name, const std::string& used, const std::string& focused) {
+  Form* const seen = formInSight(name);
+  if (seen != nullptr) window(name)->focusOn(hands_[name].after(name, *seen, used, focused));
 }
 
 }  // namespace brolgan::desktop

@@ -1,17 +1,18 @@
 // The face of the game: shows the loaded forms as windows, passes on what a person does to them,
-// and is the one place where a run-time error is caught.
+// and is the one place where an error ends the game.
 #pragma once
 
 #include <QObject>
-#include <QPoint>
+#include <exception>
 #include <functional>
 #include <map>
 #include <memory>
-#include <optional>
 #include <string>
 
 #include "desktop/form_window.h"
+#include "desktop/places.h"
 #include "flow/stage/runtime.h"
+#include "game/guide/next_hand.h"
 
 namespace brolgan::desktop {
 
@@ -25,6 +26,9 @@ class Face : public QObject {
   // Opens the start form and with it the game.
   void start();
 
+  // Ends the program behind the box that tells of an error; every later one is passed over.
+  void fail(const std::exception_ptr& error);
+
   // The window of a form, null when it has none yet.
   [[nodiscard]] FormWindow* window(const std::string& name) const;
 
@@ -33,23 +37,27 @@ class Face : public QObject {
 
  private:
   void act(const std::function<void()>& doing);
-  void fail(const char* text);
   void synchronize();
   bool makeWindow();
   void hideClosed();
   void releaseGone();
   void showOpened();
   void show(const std::string& name, Form& shown);
-  void place(const std::string& name, FormWindow& window);
-  void rememberPlace(const FormWindow& window);
+  [[nodiscard]] const FormWindow* inTurn(const FormWindow* next) const;
+  [[nodiscard]] qreal unitOfNext() const;
+  void rescueWindows();
   FormWindow::Events events();
+  // Does something with a control and puts the keyboard where the hand is next.
+  void use(const std::string& name, std::size_t index, const std::function<void(Form&)>& doing);
+  void follow(const std::string& name, const std::string& used, const std::string& focused);
   [[nodiscard]] Form* formInSight(const std::string& name) const;
   Form* form(const std::string& name) const { return runtime_.find(name); }
 
   Runtime& runtime_;
   PictureStore& pictures_;
   std::map<std::string, std::unique_ptr<FormWindow>> windows_;
-  std::optional<QPoint> lastPlace_;
+  std::map<std::string, NextHand> hands_;
+  Places places_;
   bool over_ = false;
 };
 

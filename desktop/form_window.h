@@ -1,23 +1,28 @@
 // The window of one form: one widget a control, under the control's name, laid out by the form's
 // layout. It outlives the form that it shows, so that a screen which opens again needs no new
-// widgets; show() binds it to the form that is loaded now.
+// widgets; show() binds it to the form that is loaded now. All widgets lie on one page, which scrolls
+// when the window is too small for the least unit.
 #pragma once
 
+#include <QBasicTimer>
 #include <QPixmap>
-#include <QPoint>
-#include <QWidget>
+#include <QScrollArea>
 #include <functional>
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "desktop/layouts/layouts.h"
+#include "desktop/unit.h"
+#include "desktop/widgets.h"
 #include "flow/stage/form.h"
 
 namespace brolgan::desktop {
 
 class PictureStore;
 
-class FormWindow : public QWidget {
+class FormWindow : public QScrollArea {
  public:
   // What a person did in a window, to be done to the game.
   struct Events {
@@ -25,9 +30,14 @@ class FormWindow : public QWidget {
     std::function<void(const std::string& form, std::size_t entry, int row)> select;
     std::function<void(const std::string& form, std::size_t entry, const QString& text)> type;
     std::function<void(const std::string& form)> close;
+    std::function<void(const std::string& form)> escape;
   };
 
-  FormWindow(std::string name, Form& form, PictureStore& pictures, const Events& events);
+  // unit is the one at which the window is going to be shown.
+  FormWindow(std::string name, Form& form, PictureStore& pictures, const Events& events, qreal unit);
+
+  [[nodiscard]] const std::string& name() const { return name_; }
+  [[nodiscard]] const ScreenLayout& layoutOf() const { return layout_; }
 
   // Shows another form of the same kind from now on, as fresh as it was loaded.
   void bind(Form& form);
@@ -41,36 +51,78 @@ class FormWindow : public QWidget {
   void leaveScreen();
   // Begins to decode the pictures that are drawn next.
   void preparePictures();
-  // Puts the keyboard where a person starts.
-  void focusFirst();
+  // Has reports announced again, the same words included, that the use of a control makes news.
+  void expectNews(const std::string& used);
+  // Puts the keyboard on a control, unless it is there; nothing for an empty name.
+  void focusOn(const std::string& control);
+  // The control that the keyboard stands on, empty when there is none.
+  [[nodiscard]] std::string focused() const;
 
-  // For the layouts: the widget of a control, by its full name. The control must exist.
-  [[nodiscard]] QWidget& at(const std::string& fullName) const;
-  [[nodiscard]] QWidget& at(const std::string& name, int index) const;
+  // Where those controls stand on the screen that no other window should cover.
+  [[nodiscard]] std::vector<QRect> keptClear() const;
+
+  // For the layouts: the widget of a control, by its full name. Throws std::logic_error when there is
+  // no such control, or its widget is of another kind.
+  template <class Widget = QWidget>
+  [[nodiscard]] Widget& at(const std::string& fullName) const;
+  template <class Widget = QWidget>
+  [[nodiscard]] Widget& at(const std::string& name, int index) const {
+    return at<Widget>(name + "(" + std::to_string(index) + ")");
+  }
   [[nodiscard]] bool has(const std::string& fullName) const { return widgets_.contains(fullName); }
+  [[nodiscard]] QWidget& page() const { return *widget(); }
+  [[nodiscard]] Unit& unit() { return unit_; }
+  [[nodiscard]] const Unit& unit() const { return unit_; }
   [[nodiscard]] PictureStore& pictures() const { return pictures_; }
-  // A picture behind all controls, scaled to the window.
-  void setBackground(const QString& pictureName) { background_ = pictureName; }
+  // A picture behind all controls, scaled to the page.
+  void setBackground(const QString& pictureName);
+  [[nodiscard]] const QString& background() const { return background_; }
 
  protected:
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
-  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
 
  private:
-  [[nodiscard]] QSize pixels() const { return (QSizeF(size()) * devicePixelRatioF()).toSize(); }
+  class Page;
+
+  [[nodiscard]] QWidget* find(const std::string& fullName) const;
+  void makePage();
   void makeWidgets(const Events& events);
   void orderTabs();
+  void addKeys(const Events& events);
+  void reach(std::size_t index, const Events& events);
+  void tellAll();
+  void stir(QWidget& report);
+  void forgetMouse();
+  void watchTips();
+  void fit();
+  void keepProportion();
+  void sharpen();
   [[nodiscard]] QWidget* parentOf(const ControlEntry& entry);
 
   std::string name_;
+  const ScreenLayout& layout_;
   Form* form_;
   PictureStore& pictures_;
   std::function<void(const std::string&)> close_;
+  std::function<void(const std::string&)> escape_;
+  Unit unit_;
+  TipLines tips_;
   std::map<std::string, QWidget*> widgets_;
-  std::map<std::string, QWidget*> frames_;
   std::vector<QWidget*> inOrder_;
+  std::map<QWidget*, QString> announced_;  // what each report said last, empty while it is not seen
   QString background_;
-  QPixmap shownBackground_;  // at the window's size, kept while the window shows
+  QBasicTimer rest_;
+  bool isDecoding_ = false;  // for the size at which the window has come to rest
 };
+
+template <class Widget>
+Widget& FormWindow::at(const std::string& fullName) const {
+  auto* const found = dynamic_cast<Widget*>(find(fullName));
+  if (found == nullptr) throw std::logic_error(name_ + " has no such control: " + fullName);
+  return *found;
+}
 
 }  // namespace brolgan::desktop

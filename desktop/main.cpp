@@ -1,10 +1,12 @@
 // The program: the services of this machine, the runtime with all screens, and the face.
-#include <QApplication>
 #include <QIcon>
 #include <QTimer>
 #include <array>
 #include <cstdlib>
+#include <exception>
 
+#include "desktop/application.h"
+#include "desktop/error_box.h"
 #include "desktop/face.h"
 #include "desktop/layouts/layouts.h"
 #include "desktop/picture_store.h"
@@ -34,13 +36,9 @@ void setIconSoon(QApplication& application) {
   });
 }
 
-}  // namespace
-
-int main(int argc, char* argv[]) {
+// The game from its first window to its end; answers the exit code of the program.
+int play(brolgan::desktop::Application& application) {
   using namespace brolgan;
-  QApplication application(argc, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  QApplication::setCursorFlashTime(0);  // A blinking cursor would wake an idle program twice a second.
   desktop::PictureStore pictures;
   desktop::prepareTitle(pictures, application.devicePixelRatio());
   desktop::theme::apply(application);
@@ -53,11 +51,28 @@ int main(int argc, char* argv[]) {
   offerScreens(runtime, random);
 
   desktop::Face face(runtime, pictures);
+  application.onThrown = [&face](const std::exception_ptr& error) { face.fail(error); };
   QMetaObject::invokeMethod(
       &application, [&face] { face.start(); }, Qt::QueuedConnection);
   setIconSoon(application);
   const int result = QApplication::exec();
+  application.onThrown = nullptr;
   // A sound server that hangs must not keep the program from ending.
   if (!sounds.close()) std::_Exit(result);
   return result;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  using namespace brolgan;
+  desktop::Application application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setCursorFlashTime(0);  // A blinking cursor would wake an idle program twice a second.
+  try {
+    return play(application);
+  } catch (...) {
+    desktop::showErrorBox(desktop::errorText(std::current_exception()));
+    return 1;
+  }
 }

@@ -2,10 +2,14 @@
 
 #include <malloc.h>
 
-#include <QFileInfo>
+#include <QBuffer>
+#include <QByteArray>
 #include <QImageReader>
+#include <system_error>
 
+#include "desktop/picture_file.h"
 #include "desktop/text.h"
+#include "flow/text/files.h"
 #include "flow/text/runtime_error.h"
 
 namespace brolgan::desktop {
@@ -19,6 +23,18 @@ QString pathOf(QString name) { return name.replace('\\', '/'); }
 
 QString keyOf(const QString& name, QSize box, Qt::AspectRatioMode mode) {
   return QString("%1 %2x%3 %4").arg(name).arg(box.width()).arg(box.height()).arg(mode);
+}
+
+[[noreturn]] void failOn(const std::string& name) { throw RuntimeError(ErrorCode::invalidPicture, {name, 0, {}}); }
+
+bool holdsPicture(const QByteArray& bytes) {
+  const PictureFile file = inspect(bytes);
+  if (file == PictureFile::cutShort) return false;
+  QBuffer buffer;
+  buffer.setData(bytes);
+  buffer.open(QIODevice::ReadOnly);
+  QImageReader reader(&buffer);
+  return file == PictureFile::whole ? reader.canRead() && !reader.size().isEmpty() : !reader.read().isNull();
 }
 
 QImage decode(const QString& path, QSize box, Qt::AspectRatioMode mode) {
@@ -38,22 +54,31 @@ PictureStore::PictureStore() : cache_(kCacheKilobytes) {
 }
 
 void PictureStore::load(const std::string& name) {
-  const QString path = pathOf(toQt(name));
-  if (!QFileInfo(path).isFile()) throw RuntimeError(ErrorCode::fileNotFound, {name, 0, {}});
-  if (!QImageReader(path).canRead()) throw RuntimeError(ErrorCode::invalidPicture, {name, 0, {}});
+  const std::string bytes = DiskFiles().read(name);
+  if (!holdsPicture(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())))) failOn(name);
+  loaded_.insert(toQt(name));
 }
 
 void PictureStore::prepare(const QString& name, QSize box, Qt::AspectRatioMode mode) {
   const QString key = keyOf(name, box, mode);
   if (name.isEmpty() || box.isEmpty() || cache_.contains(key) || prepared_.contains(key)) return;
-  prepared_[key] = std::async(std::launch::async, decode, pathOf(name), box, mode);
+  try {
+    prepared_[key] = std::async(std::launch::async, decode, pathOf(name), box, mode);
+  } catch (const std::system_error&) {  // There is no thread to be had; pixmap() decodes it then.
+    prepared_.erase(key);
+  }
 }
 
 QPixmap PictureStore::pixmap(const QString& name, QSize box, Qt::AspectRatioMode mode) {
   const QString key = keyOf(name, box, mode);
   if (const QPixmap* known = cache_.object(key)) return *known;
   auto prepared = prepared_.extract(key);
-  QPixmap picture = QPixmap::fromImage(prepared ? prepared.mapped().get() : decode(pathOf(name), box, mode));
+  const QImage image = prepared ? prepared.mapped().get() : decode(pathOf(name), box, mode);
+  if (image.isNull() && loaded_.contains(name)) {
+    load(name.toStdString());
+    failOn(name.toStdString());
+  }
+  QPixmap picture = QPixmap::fromImage(image);
   const int kilobytes = static_cast<int>(qint64{4} * picture.width() * picture.height() / 1024);
   cache_.insert(key, new QPixmap(picture), kilobytes);
   return picture;

@@ -8,6 +8,7 @@
 #include <QSize>
 #include <future>
 #include <map>
+#include <set>
 
 #include "flow/stage/outside.h"
 
@@ -17,17 +18,21 @@ class PictureStore : public Pictures {
  public:
   PictureStore();
 
-  // Raises 53 when the file is missing and 481 when it is no picture; the decoding waits for pixmap.
+  // Raises the errors of a file that cannot be read, and invalidPicture when it is no picture or only
+  // the beginning of one. A JPEG or PNG file is looked through from end to end but not decoded, which
+  // waits for pixmap; any other is decoded to see that it can be.
   void load(const std::string& name) override;
 
   // Begins to decode a picture beside the event thread, for the first pixmap() of that name, box and
   // mode.
   void prepare(const QString& name, QSize box, Qt::AspectRatioMode mode = Qt::KeepAspectRatio);
   // The picture scaled to fit into so many device pixels, or to fill them when its own proportions
-  // do not matter; null when it cannot be read.
+  // do not matter. Null when it cannot be read; one that was loaded raises invalidPicture then, or
+  // what has become of its file.
   QPixmap pixmap(const QString& name, QSize box, Qt::AspectRatioMode mode = Qt::KeepAspectRatio);
 
  private:
+  std::set<QString> loaded_;
   std::map<QString, std::future<QImage>> prepared_;
   QCache<QString, QPixmap> cache_;
 };

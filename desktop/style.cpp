@@ -1,23 +1,19 @@
 #include "desktop/style.h"
 
 #include <QAbstractScrollArea>
+#include <QFontInfo>
 #include <QPainter>
 #include <QStyleOption>
+#include <algorithm>
 
 #include "desktop/theme.h"
+#include "desktop/unit.h"
 
 namespace brolgan::desktop {
 
 namespace {
 
-// A face with rounded corners inside an edge, whose sides may differ in width.
-struct Box {
-  QColor face;
-  QColor edge;
-  QMargins widths;
-  int radius;
-};
-
+// All lengths are told in units.
 constexpr int kButtonRadius = 5;
 constexpr int kFieldRadius = 4;
 constexpr int kPanelRadius = 6;
@@ -25,6 +21,10 @@ constexpr int kPlateRadius = 4;
 
 constexpr int kEdge = 2;
 constexpr QMargins kEvenEdge(kEdge, kEdge, kEdge, kEdge);
+// The ring of the keyboard's focus.
+constexpr int kRing = 4;
+constexpr QMargins kFieldRing(kEdge + 1, kEdge + 1, kEdge + 1, kEdge + 1);
+constexpr QMargins kRingEdge(kRing, kRing, kRing, kRing);
 
 // A button stands out by a thicker edge at the right and below.
 constexpr QMargins kRaisedEdge(kEdge, kEdge, kEdge + 1, kEdge + 2);
@@ -35,6 +35,7 @@ constexpr QPoint kPressedShift(1, 2);
 // From the outside of a box of text to its text.
 constexpr QMargins kFieldMargins(6, 3, 6, 3);
 constexpr int kArrowWidth = 16;
+constexpr QSize kArrow(9, 5);
 
 // A panel with a title leaves room above for half of the title's plate.
 constexpr int kPlateAbove = 12;
@@ -43,6 +44,32 @@ constexpr int kPlatePadding = 8;
 
 constexpr int kBadgeEdge = 3;
 constexpr int kTipMargin = 12;
+constexpr int kRowSpacing = 4;
+constexpr int kKeySize = 10;
+constexpr QMargins kKeyMargins(5, 1, 6, 3);
+
+// The lengths of the widget that is drawn, in pixels.
+class Lengths {
+ public:
+  explicit Lengths(const QWidget* widget) : unit_(Unit::of(widget)) {}
+
+  [[nodiscard]] int of(int units) const { return qRound(units * unit_); }
+  [[nodiscard]] QPoint of(QPoint units) const { return {of(units.x()), of(units.y())}; }
+  [[nodiscard]] QMargins of(QMargins units) const {
+    return {of(units.left()), of(units.top()), of(units.right()), of(units.bottom())};
+  }
+
+ private:
+  qreal unit_;
+};
+
+// A face with rounded corners inside an edge, whose sides may differ in width.
+struct Box {
+  QColor face;
+  QColor edge;
+  QMargins widths;
+  int radius;
+};
 
 bool has(const QStyleOption& option, QStyle::StateFlag flag) { return (option.state & flag) != 0; }
 
@@ -63,7 +90,9 @@ void draw(QPainter& painter, const QRect& place, const Box& box) {
   painter.restore();
 }
 
+// The edge of a button, in units.
 QMargins buttonEdge(const QStyleOption& option, const QWidget* widget) {
+  if (has(option, QStyle::State_HasFocus)) return is(widget, kIsNarrow) ? kRaisedEdge : kRingEdge;
   if (is(widget, kIsNarrow)) return kNarrowEdge;
   const bool isFlat = has(option, QStyle::State_Sunken) || !has(option, QStyle::State_Enabled);
   return isFlat ? kEvenEdge : kRaisedEdge;
@@ -82,23 +111,44 @@ QColor edgeColour(const QStyleOption& option, const QColor& atRest) {
 }
 
 void drawButtonBox(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+  const Lengths length(widget);
   draw(painter, option.rect,
-       {buttonFace(option), edgeColour(option, theme::kInk), buttonEdge(option, widget), kButtonRadius});
+       {buttonFace(option), edgeColour(option, theme::kInk), length.of(buttonEdge(option, widget)),
+        length.of(kButtonRadius)});
 }
 
 QRect buttonContents(const QStyleOption& option, const QWidget* widget) {
-  if (is(widget, kIsNarrow)) return option.rect.marginsRemoved(kNarrowEdge);
-  if (!has(option, QStyle::State_Enabled)) return option.rect.marginsRemoved(kEvenEdge + kButtonPadding);
-  const QRect raised = option.rect.marginsRemoved(kRaisedEdge + kButtonPadding);
-  return has(option, QStyle::State_Sunken) ? raised.translated(kPressedShift) : raised;
+  const Lengths length(widget);
+  if (is(widget, kIsNarrow)) return option.rect.marginsRemoved(length.of(kNarrowEdge));
+  const QMargins padding = length.of(kButtonPadding);
+  if (!has(option, QStyle::State_Enabled)) return option.rect.marginsRemoved(length.of(kEvenEdge) + padding);
+  const QRect raised = option.rect.marginsRemoved(length.of(kRaisedEdge) + padding);
+  return has(option, QStyle::State_Sunken) ? raised.translated(length.of(kPressedShift)) : raised;
 }
 
 // A line to write in, a list to choose from.
-void drawField(const QStyleOption& option, QPainter& painter) {
+void drawField(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+  const Lengths length(widget);
   const QColor face = has(option, QStyle::State_HasFocus) ? theme::kFocusField : theme::kPlate;
   const bool isEnabled = has(option, QStyle::State_Enabled);
   draw(painter, option.rect,
-       {isEnabled ? face : theme::kDisabledFace, edgeColour(option, theme::kFieldEdge), kEvenEdge, kFieldRadius});
+       {isEnabled ? face : theme::kDisabledFace, edgeColour(option, theme::kFieldEdge),
+        length.of(has(option, QStyle::State_HasFocus) ? kFieldRing : kEvenEdge), length.of(kFieldRadius)});
+}
+
+// The letter that reaches a widget together with Alt, small in its lower right corner.
+void drawKey(QPainter& painter, const QRect& place, const QWidget* widget, const QPalette& palette) {
+  const QString key = widget == nullptr ? QString() : widget->property(kAccessKey).toString();
+  if (key.isEmpty()) return;
+  const Lengths length(widget);
+  QFont font = widget->font();
+  font.setBold(false);
+  font.setPixelSize(std::max(8, length.of(kKeySize)));
+  painter.save();
+  painter.setFont(font);
+  painter.setPen(widget->isEnabled() ? theme::kFieldEdge : palette.color(QPalette::Disabled, QPalette::ButtonText));
+  painter.drawText(place.marginsRemoved(length.of(kKeyMargins)), Qt::AlignRight | Qt::AlignBottom, key);
+  painter.restore();
 }
 
 // A field of many lines: a frame around what scrolls in it.
@@ -107,18 +157,63 @@ bool isLargeField(const QWidget* widget) {
   return area != nullptr && area->frameShape() == QFrame::StyledPanel;
 }
 
-void drawPanel(QPainter& painter, const QRect& place) {
-  draw(painter, place, {theme::kPanel, theme::kInk, kEvenEdge, kPanelRadius});
+void drawPanel(QPainter& painter, const QRect& place, const QWidget* widget) {
+  const Lengths length(widget);
+  draw(painter, place, {theme::kPanel, theme::kInk, length.of(kEvenEdge), length.of(kPanelRadius)});
 }
 
-void drawBadge(QPainter& painter, const QRect& place) {
-  const QMargins edge(kBadgeEdge, kBadgeEdge, kBadgeEdge, kBadgeEdge);
-  draw(painter, place, {theme::kInk, theme::kButton, edge, place.height() / 2});
+void drawBadge(QPainter& painter, const QRect& place, const QWidget* widget) {
+  const int edge = Lengths(widget).of(kBadgeEdge);
+  draw(painter, place, {theme::kInk, theme::kButton, {edge, edge, edge, edge}, place.height() / 2});
 }
 
 void drawTip(QPainter& painter, const QRect& place) {
   painter.fillRect(place, theme::kInk);
   painter.fillRect(place.marginsRemoved(kEvenEdge), theme::kButtonHover);
+}
+
+void drawArrow(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+  const qreal unit = Unit::of(widget);
+  const QPointF middle = QRectF(option.rect).center();
+  const QSizeF half = QSizeF(kArrow) * unit / 2;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(has(option, QStyle::State_Enabled) ? theme::kInk : theme::kDisabledEdge);
+  painter.drawPolygon(QPolygonF({{middle.x() - half.width(), middle.y() - half.height()},
+                                 {middle.x() + half.width(), middle.y() - half.height()},
+                                 {middle.x(), middle.y() + half.height()}}));
+  painter.restore();
+}
+
+// The words of a list to choose from; a long row is set smaller, until it fits.
+void drawChoice(const QStyleOptionComboBox& option, QPainter& painter, const QRect& room) {
+  QFont font = painter.font();
+  const qreal smallest = font.pointSizeF() * Unit::kSmallestText / QFontInfo(font).pixelSize();
+  const qreal step = font.pointSizeF() / 32;
+  while (QFontMetricsF(font).horizontalAdvance(option.currentText) > room.width() && font.pointSizeF() > smallest) {
+    font.setPointSizeF(std::max(smallest, font.pointSizeF() - step));
+  }
+  painter.save();
+  painter.setFont(font);
+  const QString words = QFontMetrics(font).elidedText(option.currentText, Qt::ElideRight, room.width());
+  painter.setPen(option.palette.color(QPalette::ButtonText));
+  painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, words);
+  painter.restore();
+}
+
+// The lengths of the common style that follow the unit.
+bool isLength(QStyle::PixelMetric metric) {
+  switch (metric) {
+    case QStyle::PM_ScrollBarExtent:
+    case QStyle::PM_ScrollBarSliderMin:
+    case QStyle::PM_ExclusiveIndicatorWidth:
+    case QStyle::PM_ExclusiveIndicatorHeight:
+    case QStyle::PM_RadioButtonLabelSpacing:
+      return true;
+    default:
+      return false;
+  }
 }
 
 QFont titleFont(const QWidget* widget) {
@@ -129,23 +224,29 @@ QFont titleFont(const QWidget* widget) {
 
 // Where the words of a panel's title stand.
 QRect titleRect(const QStyleOptionGroupBox& option, const QWidget* widget) {
+  const Lengths length(widget);
   const QFontMetrics metrics(titleFont(widget));
-  const QPoint corner(kPlateIndent + kEdge + kPlatePadding, kEdge);
+  const QPoint corner = length.of(QPoint(kPlateIndent + kEdge + kPlatePadding, kEdge));
   return {option.rect.topLeft() + corner, QSize(metrics.horizontalAdvance(option.text), metrics.height())};
 }
 
 QRect groupBoxPart(const QStyleOptionGroupBox& option, QStyle::SubControl part, const QWidget* widget) {
+  const Lengths length(widget);
   if (part == QStyle::SC_GroupBoxLabel) return titleRect(option, widget);
-  const QRect frame = option.rect.adjusted(0, kPlateAbove, 0, 0);
-  return part == QStyle::SC_GroupBoxContents ? frame.marginsRemoved(kEvenEdge) : frame;
+  const QRect frame = option.rect.adjusted(0, length.of(kPlateAbove), 0, 0);
+  return part == QStyle::SC_GroupBoxContents ? frame.marginsRemoved(length.of(kEvenEdge)) : frame;
 }
 
-QRect comboBoxPart(const QRect& place, QStyle::SubControl part) {
+QRect comboBoxPart(const QRect& place, QStyle::SubControl part, const QWidget* widget) {
+  const Lengths length(widget);
+  const int arrow = length.of(kArrowWidth);
   // The text keeps one pixel of the field free.
-  if (part == QStyle::SC_ComboBoxEditField) return place.marginsRemoved(kFieldMargins).adjusted(-1, 0, -kArrowWidth, 0);
+  if (part == QStyle::SC_ComboBoxEditField) {
+    return place.marginsRemoved(length.of(kFieldMargins)).adjusted(-1, 0, -arrow, 0);
+  }
   if (part != QStyle::SC_ComboBoxArrow) return place;
-  const QRect inside = place.marginsRemoved(kEvenEdge);
-  return {inside.right() - kArrowWidth + 1, inside.top(), kArrowWidth, inside.height()};
+  const QRect inside = place.marginsRemoved(length.of(kEvenEdge));
+  return {inside.right() - arrow + 1, inside.top(), arrow, inside.height()};
 }
 
 }  // namespace
@@ -162,9 +263,11 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     case PE_PanelButtonCommand:
       return drawButtonBox(*option, *painter, widget);
     case PE_PanelLineEdit:
-      return drawField(*option, *painter);
+      return drawField(*option, *painter, widget);
     case PE_PanelTipLabel:
       return drawTip(*painter, option->rect);
+    case PE_IndicatorArrowDown:
+      return drawArrow(*option, *painter, widget);
     default:
       QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
@@ -174,9 +277,15 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
                         const QWidget* widget) const {
   const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
   if (element == CE_PushButton && button != nullptr) return drawPushButton(*button, *painter, widget);
-  if (element == CE_ShapedFrame && is(widget, kIsPanel)) return drawPanel(*painter, option->rect);
-  if (element == CE_ShapedFrame && is(widget, kIsBadge)) return drawBadge(*painter, option->rect);
-  if (element == CE_ShapedFrame && isLargeField(widget)) return drawField(*option, *painter);
+  if (const auto* const combo = qstyleoption_cast<const QStyleOptionComboBox*>(option); element == CE_ComboBoxLabel) {
+    return drawChoice(*combo, *painter, proxy()->subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget));
+  }
+  if (element == CE_ShapedFrame && is(widget, kIsPanel)) return drawPanel(*painter, option->rect, widget);
+  if (element == CE_ShapedFrame && is(widget, kIsBadge)) return drawBadge(*painter, option->rect, widget);
+  if (element == CE_ShapedFrame && isLargeField(widget)) {
+    drawField(*option, *painter, widget);
+    return drawKey(*painter, option->rect, widget, option->palette);
+  }
   QProxyStyle::drawControl(element, option, painter, widget);
 }
 
@@ -197,6 +306,7 @@ void Style::drawPushButton(const QStyleOptionButton& option, QPainter& painter, 
   QStyleOptionButton label = option;
   label.rect = proxy()->subElementRect(SE_PushButtonContents, &option, widget);
   proxy()->drawControl(CE_PushButtonLabel, &label, &painter, widget);
+  drawKey(painter, option.rect, widget, option.palette);
   if (!has(option, State_HasFocus)) return;
   QStyleOptionFocusRect focus;
   static_cast<QStyleOption&>(focus) = option;
@@ -206,34 +316,41 @@ void Style::drawPushButton(const QStyleOptionButton& option, QPainter& painter, 
 
 // The title stands on a plate that lies across the upper edge.
 void Style::drawGroupBox(const QStyleOptionGroupBox& option, QPainter& painter, const QWidget* widget) const {
-  drawPanel(painter, proxy()->subControlRect(CC_GroupBox, &option, SC_GroupBoxFrame, widget));
+  drawPanel(painter, proxy()->subControlRect(CC_GroupBox, &option, SC_GroupBoxFrame, widget), widget);
   if (option.text.isEmpty()) return;
   const QRect title = proxy()->subControlRect(CC_GroupBox, &option, SC_GroupBoxLabel, widget);
-  const QMargins around(kPlatePadding, 0, kPlatePadding, 0);
-  draw(painter, title.marginsAdded(kEvenEdge + around), {theme::kPanel, theme::kInk, kEvenEdge, kPlateRadius});
+  const Lengths length(widget);
+  const QMargins edge = length.of(kEvenEdge);
+  const QMargins around = length.of(QMargins(kPlatePadding, 0, kPlatePadding, 0));
+  draw(painter, title.marginsAdded(edge + around), {theme::kPanel, theme::kInk, edge, length.of(kPlateRadius)});
   painter.setFont(titleFont(widget));
   proxy()->drawItemText(&painter, title, Qt::AlignCenter, option.palette, has(option, State_Enabled), option.text,
                         QPalette::WindowText);
 }
 
 void Style::drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, const QWidget* widget) const {
-  drawField(option, painter);
+  drawField(option, painter, widget);
   QStyleOption arrow = option;
   arrow.rect = proxy()->subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget);
   proxy()->drawPrimitive(PE_IndicatorArrowDown, &arrow, &painter, widget);
+  drawKey(painter, option.rect, widget, option.palette);
 }
 
 QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
+  const Lengths length(widget);
   switch (element) {
     case SE_PushButtonContents:
     case SE_PushButtonFocusRect:
       return buttonContents(*option, widget);
     case SE_LineEditContents:
-      return option->rect.marginsRemoved(kFieldMargins);
+      return option->rect.marginsRemoved(length.of(kFieldMargins));
     case SE_ShapedFrameContents:
-      if (is(widget, kIsPanel)) return option->rect.marginsRemoved(kEvenEdge);
-      if (is(widget, kIsBadge)) return option->rect.adjusted(kBadgeEdge, kBadgeEdge, -kBadgeEdge, -kBadgeEdge);
-      if (isLargeField(widget)) return option->rect.marginsRemoved(kFieldMargins);
+      if (is(widget, kIsPanel)) return option->rect.marginsRemoved(length.of(kEvenEdge));
+      if (is(widget, kIsBadge)) {
+        const int edge = length.of(kBadgeEdge);
+        return option->rect.adjusted(edge, edge, -edge, -edge);
+      }
+      if (isLargeField(widget)) return option->rect.marginsRemoved(length.of(kFieldMargins));
       break;
     default:
       break;
@@ -243,7 +360,8 @@ QRect Style::subElementRect(SubElement element, const QStyleOption* option, cons
 
 QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                             const QWidget* widget) const {
-  if (control == CC_ComboBox) return visualRect(option->direction, option->rect, comboBoxPart(option->rect, part));
+  if (control == CC_ComboBox)
+    return visualRect(option->direction, option->rect, comboBoxPart(option->rect, part, widget));
   if (const auto* const box = qstyleoption_cast<const QStyleOptionGroupBox*>(option)) {
     return visualRect(option->direction, option->rect, groupBoxPart(*box, part, widget));
   }
@@ -252,22 +370,30 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
 
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                               const QWidget* widget) const {
+  const Lengths length(widget);
   switch (type) {
     case CT_PushButton:
-      return contents.grownBy(is(widget, kIsNarrow) ? kNarrowEdge : kRaisedEdge + kButtonPadding);
+      return contents.grownBy(length.of(is(widget, kIsNarrow) ? kNarrowEdge : kRaisedEdge + kButtonPadding));
     case CT_LineEdit:
-      return contents.grownBy(kFieldMargins);
+      return contents.grownBy(length.of(kFieldMargins));
     case CT_ComboBox:
-      return contents.grownBy(kFieldMargins) + QSize(kArrowWidth + kEdge, 0);
+      return contents.grownBy(length.of(kFieldMargins)) + QSize(length.of(kArrowWidth + kEdge), 0);
     case CT_GroupBox:
-      return contents.grownBy(kEvenEdge) + QSize(0, kPlateAbove);
+      return contents.grownBy(length.of(kEvenEdge)) + QSize(0, length.of(kPlateAbove));
+    case CT_ItemViewItem: {
+      // Tall enough for capitals with accents.
+      const int height = (widget == nullptr ? 0 : widget->fontMetrics().lineSpacing()) + length.of(kRowSpacing);
+      return QProxyStyle::sizeFromContents(type, option, contents, widget).expandedTo({0, height});
+    }
     default:
       return QProxyStyle::sizeFromContents(type, option, contents, widget);
   }
 }
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
-  return metric == PM_ToolTipLabelFrameWidth ? kTipMargin : QProxyStyle::pixelMetric(metric, option, widget);
+  if (metric == PM_ToolTipLabelFrameWidth) return kTipMargin;
+  const int length = QProxyStyle::pixelMetric(metric, option, widget);
+  return isLength(metric) ? Lengths(widget).of(length) : length;
 }
 
 }  // namespace brolgan::desktop

@@ -11,9 +11,11 @@ class QStyleOptionGroupBox;
 namespace brolgan::desktop {
 
 // What a widget says of itself by a property of that name, set to true.
-inline constexpr const char* kIsNarrow = "narrow";  // A small button without padding.
-inline constexpr const char* kIsPanel = "panel";    // A frame around a group of widgets.
-inline constexpr const char* kIsBadge = "badge";    // A round plate with a figure.
+inline constexpr const char* kIsNarrow = "narrow";      // A small button without padding.
+inline constexpr const char* kIsPanel = "panel";        // A frame around a group of widgets.
+inline constexpr const char* kIsBold = "bold";          // Words that are bold in every colour.
+inline constexpr const char* kAccessKey = "accessKey";  // The letter that reaches it with Alt.
+inline constexpr const char* kIsBadge = "badge";        // A round plate with a figure.
 
 class Style : public QProxyStyle {
  public:

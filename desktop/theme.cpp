@@ -11,26 +11,24 @@ namespace brolgan::desktop::theme {
 
 namespace {
 
-constexpr int kBadgeSize = 52;
+constexpr const char* kSerif = "Vollkorn";
 
-QFont textFont(qreal points) {
+QFont textFont() {
   QFont font;
   font.setFamilies({"Lato", "DejaVu Sans"});
-  font.setPointSizeF(points);
   return font;
 }
 
-QFont headingFont(qreal points) {
+QFont serifFont() {
   QFont font;
-  font.setFamilies({"Vollkorn", "DejaVu Serif"});
-  font.setPointSizeF(points);
+  font.setFamilies({kSerif, "DejaVu Serif"});
   font.setBold(true);
   return font;
 }
 
 // Figures stand in the text face, whose digits are all of one height and width.
-QFont figureFont(qreal points) {
-  QFont font = textFont(points);
+QFont figureFont() {
+  QFont font = textFont();
   font.setWeight(QFont::Black);
   return font;
 }
@@ -53,14 +51,15 @@ QPalette palette() {
   return colours;
 }
 
-void setFont(QWidget& label, const QFont& font) { label.setFont(font); }
-
 }  // namespace
 
 void apply(QApplication& application) {
   application.setStyle(new Style);
   application.setPalette(palette());
-  QFont font = textFont(10.5);
+  QFont font = textFont();
+  font.setPixelSize(static_cast<int>(sizeOf(Type::text)));
+  // Letters keep their proportions at every size.
+  font.setHintingPreference(QFont::PreferVerticalHinting);
   application.setFont(font);
   font.setBold(true);
   application.setFont(font, "QPushButton");
@@ -82,15 +81,48 @@ QColor colourOf(Colour colour) {
   return kInk;
 }
 
-void makeTitle(QWidget& label) { setFont(label, headingFont(22)); }
+QFont typeface(Type type) {
+  switch (type) {
+    case Type::heading:
+    case Type::title:
+      return serifFont();
+    case Type::figure:
+    case Type::bigFigure:
+    case Type::blow:
+      return figureFont();
+    case Type::text:
+    case Type::small:
+      break;
+  }
+  return textFont();
+}
 
-void makeHeading(QWidget& label) { setFont(label, headingFont(14)); }
+qreal sizeOf(Type type) {
+  switch (type) {
+    case Type::text:
+      return 14;
+    case Type::small:
+      return 13.25;
+    case Type::heading:
+    case Type::figure:
+      return 18.5;
+    case Type::bigFigure:
+      return 26.5;
+    case Type::title:
+      return 29;
+    case Type::blow:
+      return 40;
+  }
+  return 14;
+}
 
-void makeFigure(QWidget& label) { setFont(label, figureFont(14)); }
-
-void makeBigFigure(QWidget& label) { setFont(label, figureFont(20)); }
-
-void makeSmall(QWidget& label) { setFont(label, textFont(9.5)); }
+QFont figuresWithin(const QFont& font) {
+  if (font.families().value(0) != kSerif) return font;
+  QFont figures = font;
+  figures.setFamilies(textFont().families());
+  figures.setWeight(QFont::Black);
+  return figures;
+}
 
 void makePanel(QFrame& frame) {
   frame.setProperty(kIsPanel, true);
@@ -101,8 +133,6 @@ void makeBadge(QLabel& label) {
   label.setProperty(kIsBadge, true);
   label.setFrameShape(QFrame::StyledPanel);
   label.setForegroundRole(QPalette::BrightText);
-  label.setMinimumWidth(kBadgeSize);
-  label.setFixedHeight(kBadgeSize);
 }
 
 void makeNarrow(QWidget& button) { button.setProperty(kIsNarrow, true); }

@@ -37,12 +37,12 @@ void apply(QApplication& application);
 // The colour of the rules as it stands on the screen.
 QColor colourOf(Colour colour);
 
-// Makes a label a heading, a figure, or a figure that is read from afar.
-void makeTitle(QWidget& label);
-void makeHeading(QWidget& label);
-void makeFigure(QWidget& label);
-void makeBigFigure(QWidget& label);
-void makeSmall(QWidget& label);
+// The kinds of type. Their sizes, in units, are those of the letters' bodies.
+enum class Type { text, small, heading, title, figure, bigFigure, blow };
+QFont typeface(Type type);
+qreal sizeOf(Type type);
+// The face of the figures within words set in that font: the serif's own figures are uneven.
+QFont figuresWithin(const QFont& font);
 
 // Makes a frame the panel of a group of widgets, a label a round plate with a light figure, a button
 // a small one.

@@ -1,46 +1,89 @@
 #include "desktop/widgets.h"
 
+#include <QFontMetrics>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QToolTip>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/picture_store.h"
 #include "desktop/theme.h"
+#include "desktop/unit.h"
 
 namespace brolgan::desktop {
 
 namespace {
+
+// How much is left of a picture that is set back.
+constexpr qreal kFaint = 0.4;
+
+constexpr int kTipWidth = 420;
+constexpr int kPictureButton = 48;
 
 // The device pixels of an area of a widget.
 QSize pixelsOf(const QWidget& widget, QRect area) {
   return (QSizeF(area.size()) * widget.devicePixelRatioF()).toSize();
 }
 
-void drawPicture(QWidget& widget, PictureStore& pictures, const QString& name, QRect area) {
-  if (name.isEmpty() || area.isEmpty()) return;
-  const qreal ratio = widget.devicePixelRatioF();
-  QPixmap picture = pictures.pixmap(name, pixelsOf(widget, area));
-  if (picture.isNull()) return;
-  picture.setDevicePixelRatio(ratio);
-  const QSizeF size = QSizeF(picture.size()) / ratio;
-  QPainter painter(&widget);
-  if (!widget.isEnabled()) painter.setOpacity(0.4);
-  painter.drawPixmap(
-      QPointF(area.x() + (area.width() - size.width()) / 2, area.y() + (area.height() - size.height()) / 2), picture);
+}  // namespace
+
+QString TipLines::broken(const QString& text, const QFont& font, int width) {
+  const QFontMetrics metrics(font);
+  QString lines;
+  QString line;
+  for (const QString& word : text.split(' ')) {
+    const QString longer = line.isEmpty() ? word : line + ' ' + word;
+    if (metrics.horizontalAdvance(longer) <= width) {
+      line = longer;
+      continue;
+    }
+    lines += line + '\n';
+    line = word;
+  }
+  return lines + line;
 }
 
-}  // namespace
+bool TipLines::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QObject::eventFilter(watched, event);
+  auto& widget = static_cast<QWidget&>(*watched);
+  if (widget.toolTip().isEmpty()) return false;
+  QToolTip::setFont(widget.window()->font());
+  const QString lines = broken(widget.toolTip(), QToolTip::font(), Unit::pixels(&widget, kTipWidth));
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), lines, &widget);
+  return true;
+}
 
 ClickLabel::ClickLabel(std::function<void()> click, QWidget* parent) : QLabel(parent), click_(std::move(click)) {
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::PointingHandCursor);
-  setContentsMargins(6, 1, 6, 1);
+  setMargins();
+}
+
+void ClickLabel::setMargins() {
+  const int side = Unit::pixels(this, 6);
+  const int over = Unit::pixels(this, 1);
+  setContentsMargins(side, over, side, over);
+}
+
+// The type changes with the unit.
+void ClickLabel::changeEvent(QEvent* event) {
+  QLabel::changeEvent(event);
+  if (event->type() == QEvent::FontChange) setMargins();
+}
+
+void ClickLabel::setChecked(bool isChecked) {
+  isChecked_ = isChecked;
+  update();
 }
 
 void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) click_();
+  if (event->button() != Qt::LeftButton || !rect().contains(event->position().toPoint())) return;
+  click_();
+  repaint();  // The two clicks of a double click are seen both.
 }
 
 void ClickLabel::keyPressEvent(QKeyEvent* event) {
@@ -62,9 +105,11 @@ void ClickLabel::paintEvent(QPaintEvent*) {
 
 // A light plate says that the label can be clicked; the focus thickens its edge.
 void ClickLabel::drawPlate(QPainter& painter) {
-  painter.setPen(hasFocus() ? QPen(theme::kFocus, 2) : QPen(theme::kEdge, 1));
+  const qreal unit = Unit::of(this);
+  const QPen atRest = isChecked_ ? QPen(theme::kInk, 2 * unit) : QPen(theme::kEdge, unit);
+  painter.setPen(hasFocus() ? QPen(theme::kFocus, 3 * unit) : atRest);
   painter.setBrush(theme::kPlate);
-  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(unit, unit, -unit, -unit), 4 * unit, 4 * unit);
 }
 
 ClickEdit::ClickEdit(std::function<void()> click, QWidget* parent) : QLineEdit(parent), click_(std::move(click)) {}
@@ -74,22 +119,82 @@ void ClickEdit::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) click_();
 }
 
-PictureWidget::PictureWidget(PictureStore& pictures, QWidget* parent) : QLabel(parent), pictures_(pictures) {}
-
-void PictureWidget::setName(const QString& name) {
-  if (name == name_) return;
-  name_ = name;
-  update();
+void RowList::keyPressEvent(QKeyEvent* event) {
+  const auto moves = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_PageUp, Qt::Key_PageDown};
+  const bool isMove = std::find(moves.begin(), moves.end(), event->key()) != moves.end();
+  if (isMove && selectedItems().isEmpty() && count() > 0) {
+    setCurrentRow(0, QItemSelectionModel::ClearAndSelect);
+  } else {
+    QListWidget::keyPressEvent(event);
+  }
 }
 
-void PictureWidget::prepare() { pictures_.prepare(name_, pixelsOf(*this, contentsRect())); }
+QItemSelectionModel::SelectionFlags RowList::selectionCommand(const QModelIndex& index, const QEvent* event) const {
+  return index.isValid() ? QItemSelectionModel::ClearAndSelect : QListWidget::selectionCommand(index, event);
+}
 
-void PictureWidget::paintEvent(QPaintEvent*) { drawPicture(*this, pictures_, name_, contentsRect()); }
+bool Picture::setName(const QString& name) {
+  if (name == name_) return false;
+  name_ = name;
+  forget();
+  return true;
+}
+
+bool Picture::setDimmed(bool isDimmed) { return std::exchange(isDimmed_, isDimmed) != isDimmed; }
+
+void Picture::forget() {
+  shown_ = {};
+  shownFor_ = {};
+}
+
+void Picture::prepare(const QWidget& widget, QRect area) const { pictures_.prepare(name_, pixelsOf(widget, area)); }
+
+void Picture::draw(QWidget& widget, QRect area) {
+  if (name_.isEmpty() || area.isEmpty()) return;
+  const QSize wanted = pixelsOf(widget, area);
+  if (shown_.isNull() || (wanted != shownFor_ && !Unit::isMoving(&widget))) {
+    shown_ = pictures_.pixmap(name_, wanted);
+    shownFor_ = wanted;
+  }
+  if (shown_.isNull()) return;
+  const bool isSharp = wanted == shownFor_;
+  const QSizeF size = isSharp ? QSizeF(shown_.size()) / widget.devicePixelRatioF()
+                              : QSizeF(shown_.size()).scaled(area.size(), Qt::KeepAspectRatio);
+  const QPointF corner(area.x() + (area.width() - size.width()) / 2, area.y() + (area.height() - size.height()) / 2);
+  QPainter painter(&widget);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, !isSharp);
+  if (!widget.isEnabled() || isDimmed_) painter.setOpacity(kFaint);
+  painter.drawPixmap(QRectF(corner, size), shown_, shown_.rect());
+}
+
+PictureWidget::PictureWidget(PictureStore& pictures, QWidget* parent) : QLabel(parent), picture_(pictures) {}
+
+void PictureWidget::setName(const QString& name) {
+  if (picture_.setName(name)) update();
+}
+
+void PictureWidget::prepare() { picture_.prepare(*this, contentsRect()); }
+
+void PictureWidget::paintEvent(QPaintEvent*) { picture_.draw(*this, contentsRect()); }
+
+void PictureWidget::setDimmed(bool isDimmed) {
+  if (picture_.setDimmed(isDimmed)) update();
+}
+
+void PictureWidget::hideEvent(QHideEvent* event) {
+  QLabel::hideEvent(event);
+  picture_.forget();
+}
 
 PictureButton::PictureButton(PictureStore& pictures, const QString& name, QWidget* parent)
-    : QAbstractButton(parent), pictures_(pictures), name_(name) {
+    : QAbstractButton(parent), picture_(pictures, name) {
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_Hover);
+}
+
+QSize PictureButton::sizeHint() const {
+  const int side = Unit::pixels(this, kPictureButton);
+  return {side, side};
 }
 
 void PictureButton::keyPressEvent(QKeyEvent* event) {
@@ -100,16 +205,23 @@ void PictureButton::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+void PictureButton::hideEvent(QHideEvent* event) {
+  QAbstractButton::hideEvent(event);
+  picture_.forget();
+}
+
 void PictureButton::paintEvent(QPaintEvent*) {
+  const qreal unit = Unit::of(this);
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const bool lit = isEnabled() && (underMouse() || isDown());
-  painter.setPen(QPen(hasFocus() ? theme::kFocus : theme::kInk, hasFocus() ? 3 : 1.5));
-  painter.setBrush(lit ? theme::kButtonHover : theme::kButton);
-  painter.drawRoundedRect(QRectF(rect()).adjusted(2, 2, -2, -2), 5, 5);
+  painter.setPen(QPen(hasFocus() ? theme::kFocus : theme::kInk, (hasFocus() ? 4 : 1.5) * unit));
+  painter.setBrush(hasFocus() ? theme::kFocusFace : lit ? theme::kButtonHover : theme::kButton);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(2 * unit, 2 * unit, -2 * unit, -2 * unit), 5 * unit, 5 * unit);
   painter.end();
-  const int shift = isDown() ? 1 : 0;
-  drawPicture(*this, pictures_, name_, rect().adjusted(6 + shift, 6 + shift, -6 + shift, -6 + shift));
+  const int inset = Unit::pixels(this, 6);
+  picture_.draw(*this,
+                rect().marginsRemoved({inset, inset, inset, inset}).translated(isDown() ? QPoint(1, 1) : QPoint()));
 }
 
 }  // namespace brolgan::desktop

@@ -6,7 +6,6 @@
 #include "fight/choices.h"
 #include "flow/text/number_text.h"
 #include "game/names/names.h"
-#include "rules/development.h"
 
 namespace brolgan {
 
@@ -33,49 +32,25 @@ void Fight::Form_Load() {
   Bron_Walka();
   Czary_Lista();
   Przedmioty_Lista();
-  if (PotworPierwszy == 1) AtakPotwora();
+  if (handedOver_.monstersFirst()) AtakPotwora();
   Wybory_Load();
   Statystyki();
 }
 
 void Fight::Fight_Load() {
   const FightSetup setup = readFight(runtime_.OpenForInput(kFightFile));
-  PotworPierwszy = setup.PotworPierwszy;
-  PlikBohatera = setup.PlikBohatera;
-  BonusPancerza = setup.BonusPancerza;
-  RundyNiesmiertelnosci = setup.RundyNiesmiertelnosci;
-  IlePotworow = setup.potwor.Ilosc;
-  PotworNazwa = setup.potwor.Nazwa;
-  PotworObraz = setup.potwor.Obrazek;
-  PotworSzybkosc = setup.potwor.Szybkosc;
-  PotworAtak = setup.potwor.Atak;
-  NrPotwora = setup.NrPotwora;
-  if (IlePotworow > PotworZycie.size) throw RuntimeError(ErrorCode::subscript, {kFightFile, 5, "Ilosc"});
-  Ostatni = IlePotworow - 1;
-  PotworZycie(0) = setup.potwor.Wytrzymalosc;
-  PotworPancerz(0) = setup.potwor.Pancerz;
-  for (int i = 1; i <= Ostatni.value(); ++i) {
-    PotworZycie(i) = PotworZycie(0);
-    PotworPancerz(i) = PotworPancerz(0);
-  }
+  handedOver_ = {setup.PotworPierwszy, setup.PlikBohatera, setup.BonusPancerza, setup.RundyNiesmiertelnosci};
+  group_ = gather(setup);
 }
 
-void Fight::Player_Load() { bohater = brolgan::Player_Load(runtime_.OpenForInput(PlikBohatera)); }
+void Fight::Player_Load() { bohater = brolgan::Player_Load(runtime_.OpenForInput(handedOver_.PlikBohatera)); }
 
 void Fight::Bron_Walka() {
-  for (int i = 0; i < bohater.MaBronww.size; ++i) {
-    if (bohater.MaBronww(i)) Bron.AddItem(katalog.KatalogWw(i).nazwa);
+  for (const WeaponKind kind : kWeaponKinds) {
+    for (int i = 0; i < kWeaponsOfAKind; ++i) {
+      if (bohater.slots(kind).owned(i)) Bron.AddItem(katalog.weapons(kind)(i).nazwa);
+    }
   }
-  for (int i = 0; i < bohater.MaBronss.size; ++i) {
-    if (bohater.MaBronss(i)) Bron.AddItem(katalog.KatalogSs(i).nazwa);
-  }
-}
-
-void Fight::Czary_Lista() {
-  for (const auto& [index, name] : kFightSpells) {
-    if (bohater.MaCzar(index)) Czar.AddItem(name);
-  }
-  if (bohater.Przedmioty(kStrongHealingCounter) >= 1) Czar.AddItem(kStrongHealingSpell);
 }
 
 void Fight::Przedmioty_Lista() {
@@ -101,32 +76,28 @@ void Fight::Wybory_Load() {
   restore(Przedmiot, bohater.OstatniPrzedmiot);
 }
 
-Integer Fight::armour() const { return bohater.Wartosci(kArmour) + BonusPancerza + Pancerz3A; }
-
 void Fight::Statystyki() {
-  LIle.Caption = decimal(Ostatni + 1);
-  Odl.Caption = Blisko ? "BLISKA" : "DALEKA";
+  LIle.Caption = decimal(group_.Ostatni + 1);
+  Odl.Caption = round_.Blisko ? "BLISKA" : "DALEKA";
   Pstat[0].Caption = decimal(bohater.AktWytrzymalosc);
-  Pstat[1].Caption = decimal(armour());
+  Pstat[1].Caption = decimal(bohater.Wartosci(kArmour) + handedOver_.BonusPancerza + effects_.Pancerz3A);
   Pstat[2].Caption = decimal(bohater.AktMoc);
   Pstat[3].Caption = damageText();
-  if (Ostatni < 0) return;
-  Mstat[0].Caption = decimal(targetLife());
-  Mstat[1].Caption = decimal(targetArmour());
-  Mstat[2].Caption = decimal(PotworSzybkosc);
-  Mstat[3].Caption = OpisKosci(PotworAtak);
-  Potwór.Picture = runtime_.LoadPicture(PotworObraz);
+  if (!group_.hasTarget()) return;
+  Mstat[0].Caption = decimal(group_.targetLife());
+  Mstat[1].Caption = decimal(group_.targetArmour());
+  Mstat[2].Caption = decimal(group_.PotworSzybkosc);
+  Mstat[3].Caption = OpisKosci(group_.PotworAtak);
+  Potwór.Picture = runtime_.LoadPicture(group_.PotworObraz);
 }
 
 // MEANT(shown-ranged-bonus): a ranged weapon shows its percent and flat bonus, though its damage never uses them.
 std::string Fight::damageText() const {
-  const auto bonuses = [](Integer plus, Integer percent) { return "+" + str(plus) + "+" + str(percent) + "%"; };
   if (Bron.Text().empty()) return OpisKosci(bohater.MO);
-  if (RodzajBroni == kMelee) {
-    return OpisKosci(bohater.MO) + "+" + OpisKosci(BronKostka) +
-           bonuses(bohater.BronwwPlus(WybranaBron), bohater.BronwwProc(WybranaBron));
-  }
-  return OpisKosci(BronKostka) + bonuses(bohater.BronssPlus(WybranaBron), bohater.BronssProc(WybranaBron));
+  const auto slots = bohater.slots(weapon_.RodzajBroni);
+  const std::string strength = weapon_.isMelee() ? OpisKosci(bohater.MO) + "+" : "";
+  return strength + OpisKosci(weapon_.BronKostka) + "+" + str(slots.plus(weapon_.WybranaBron)) + "+" +
+         str(slots.percent(weapon_.WybranaBron)) + "%";
 }
 
 // Weapons are told apart by name; a name that the game does not know keeps the place of the
@@ -134,13 +105,13 @@ std::string Fight::damageText() const {
 void Fight::Bron_Click() {
   const std::string name = Bron.Text();
   const auto* const found = std::find(kWeaponNames.begin(), kWeaponNames.end(), name);
-  if (found != kWeaponNames.end()) WybranaBron = static_cast<int>(found - kWeaponNames.begin());
-  RodzajBroni = kMelee;
-  if (WybranaBron >= 10) {
-    RodzajBroni = kRanged;
-    WybranaBron -= 10;
+  if (found != kWeaponNames.end()) weapon_.WybranaBron = static_cast<int>(found - kWeaponNames.begin());
+  weapon_.RodzajBroni = WeaponKind::melee;
+  if (weapon_.WybranaBron >= kWeaponsOfAKind) {
+    weapon_.RodzajBroni = WeaponKind::ranged;
+    weapon_.WybranaBron -= kWeaponsOfAKind;
   }
-  BronKostka = (RodzajBroni == kMelee ? katalog.KatalogWw : katalog.KatalogSs)(WybranaBron).kostka;
+  weapon_.BronKostka = katalog.weapons(weapon_.RodzajBroni)(weapon_.WybranaBron).kostka;
   if (!name.empty()) Pstat[3].Caption = damageText();
 }
 

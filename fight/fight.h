@@ -4,10 +4,13 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 
+#include "fight/state.h"
 #include "flow/stage/runtime.h"
 #include "game/names/names.h"
+#include "rules/battle.h"
 #include "rules/handover.h"
 #include "rules/hero.h"
 #include "rules/random.h"
@@ -80,15 +83,11 @@ class Fight : public Form {
   void Wybory_Load();
   void Statystyki();
   [[nodiscard]] std::string damageText() const;
-  [[nodiscard]] Integer armour() const;
-  Integer& targetLife() { return PotworZycie(Ostatni); }
-  Integer& targetArmour() { return PotworPancerz(Ostatni); }
   void play(const std::string& file);
   void disableActions();
 
   // Attacking.
   [[nodiscard]] bool mayStrike() const;
-  [[nodiscard]] bool isStaff() const;
   void strike();
   void spendBlow();
   void shoot();
@@ -96,12 +95,16 @@ class Fight : public Form {
   void fire();
   void payForUltiGun();
   void suckArmour();
-  void grow(Integer& percent, Integer die, Integer threshold);
+  void growWeapon(const Growth& growth);
+  void clearReport();
   void ZadajObrazenia(Integer damage);
-  void spread(Integer harm);
   void carryOn();
 
-  // Spells and items.
+  // Spells, each a row of a table, and items.
+  struct Spell;
+  static std::span<const Spell> spells();
+  void cast(const Spell& spell);
+  [[nodiscard]] double typedMagic() const;
   void castHealing();
   void castStrongHealing();
   void castDamage();
@@ -109,23 +112,16 @@ class Fight : public Form {
   void castBoom();
   void castClass3A();
   void castLuck();
-  void payMagic(Integer cost);
-  void spendCast();
-  void heal(Integer amount);
+  void healHero(Integer amount);
   void hit(Integer damage);
-  void spreadBullShots(Integer damage);
-  [[nodiscard]] double typedMagic() const;
-  void finishAttackSpell(const char* sound);
-  void finishSpell(const char* sound);
+  void removeFallen();
   void useGrenade();
   void useAmmo();
-  void hurtThrower();
   void hurtGroup(Integer roll);
 
   // The round and the end.
   void AtakPotwora();
-  void suffer(Integer harm);
-  void tickEffects();
+  void suffer(Integer blow);
   void regainMagic();
   void Zabici();
   void Player_Save();
@@ -140,36 +136,13 @@ class Fight : public Form {
   Runtime& runtime_;
   RandomSource& random_;
   Bohater bohater;
-  Catalogue<101> katalog;
-
-  std::string PlikBohatera;
-  Integer PotworPierwszy;
-  Integer BonusPancerza;
-  // MEANT(no-immortality): read and never looked at; the item protects nobody in the fight.
-  Integer RundyNiesmiertelnosci;
-  Integer IlePotworow;
-  std::string PotworNazwa;
-  std::string PotworObraz;
-  Integer PotworSzybkosc;
-  Kostka PotworAtak;
-  Array<Integer, 26> PotworZycie;
-  Array<Integer, 26> PotworPancerz;
-  Integer NrPotwora;
-  Integer Ostatni;
-  bool Blisko = true;
-  bool MozeRzucac = true;
-  bool MozeStrzelac = true;
-  bool MozeBic = true;
-  Integer WybranaBron;
-  std::string RodzajBroni;
-  Kostka BronKostka;
-  Integer Obrazenia;
-  Integer Pancerz3A;
-  Integer Tury3A;
-  Integer Fart;
-  bool DrugiCios = true;
-  bool AmmoGotowe = false;
-  bool Przeladowanie = false;
+  Catalogue<kFightPlaces> katalog;
+  HandedOver handedOver_;
+  Group group_;
+  Round round_;
+  Effects effects_;
+  WeaponInHand weapon_;
+  // Whether the hero outlived the fight; only its closing looks at it.
   bool Przezyl = true;
 };
 

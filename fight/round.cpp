@@ -10,18 +10,27 @@
 
 namespace brolgan {
 
+namespace {
+
+// The players behind the one whose turn it is, in their order.
+std::vector<std::string> othersOf(const PlayerOrder& order) {
+  std::vector<std::string> names;
+  for (int i = 1; i < order.count.value(); ++i) names.push_back(order.Gracz(i));
+  return names;
+}
+
+}  // namespace
+
 // MEANT(fallen-goes-on): a fallen hero may press it too; the monsters strike again and he stays fallen.
 void Fight::NastTura_Click() {
-  if (PotworZycie(0) < 1 || Ostatni < 0) {
+  if (group_.isGone()) {
     KoniecWalki();
     return;
   }
-  tickEffects();
-  DrugiCios = true;
+  effects_.endRound();
   FZad.Visible = false;
   FDamage.Visible = false;
   Uwaga.Visible = false;
-  Blisko = true;
   AtakPotwora();
   Atak.Enabled = true;
   Rzuc.Enabled = true;
@@ -31,20 +40,12 @@ void Fight::NastTura_Click() {
     disableActions();
   }
   if (isClass(bohater.Klasa, kWizard)) regainMagic();
-  MozeRzucac = true;
-  MozeStrzelac = true;
-  MozeBic = true;
+  round_ = {};
   if (Bron.Text().empty()) {
-    RodzajBroni.clear();
-    WybranaBron = 0;
+    weapon_.RodzajBroni = WeaponKind::none;
+    weapon_.WybranaBron = 0;
   }
   Statystyki();
-}
-
-// The armour of "Klasa III A" ends before the monsters strike.
-void Fight::tickEffects() {
-  if (Tury3A > 0) Tury3A -= 1;
-  if (Tury3A == 0) Pancerz3A = 0;
 }
 
 void Fight::regainMagic() {
@@ -54,21 +55,14 @@ void Fight::regainMagic() {
 // Every standing monster strikes once, also when the hero has fallen meanwhile.
 void Fight::AtakPotwora() {
   IleDMG.Caption.clear();
-  const int last = Ostatni.value();
-  for (int i = 0; i <= last; ++i) {
-    const Integer harm =
-        Rzuty(random_, PotworAtak) + PotworAtak.dodatek - bohater.Wartosci(kArmour) - BonusPancerza - Pancerz3A;
-    suffer(harm);
-  }
+  const int last = group_.Ostatni.value();
+  for (int i = 0; i <= last; ++i) suffer(Rzuty(random_, group_.PotworAtak) + group_.PotworAtak.dodatek);
 }
 
-// A blow to the hero, armour already off. A charge of "Kaczy Fart" takes one that got through.
-void Fight::suffer(Integer harm) {
-  if (harm <= 0) return;
-  if (Fart > 0) {
-    Fart -= 1;
-    return;
-  }
+// A blow to the hero. A charge of "Kaczy Fart" takes one that gets through his armour.
+void Fight::suffer(Integer blow) {
+  const Integer harm = blow - bohater.Wartosci(kArmour) - handedOver_.BonusPancerza - effects_.Pancerz3A;
+  if (harm <= 0 || effects_.takesBlow()) return;
   FDamage.Visible = true;
   IleDMG.Caption += decimal(harm) + " ";
   bohater.AktWytrzymalosc -= harm;
@@ -80,16 +74,16 @@ void Fight::suffer(Integer harm) {
 // MEANT(silent-report): writes the report without showing its frame.
 // Takes the fallen off the group and announces its end.
 void Fight::Zabici() {
-  while (Ostatni >= 0 && targetLife() <= 0) {
+  while (group_.hasTarget() && group_.targetLife() <= 0) {
     OpisZad.Caption = "Zabity!";
-    Ostatni -= 1;
+    group_.Ostatni -= 1;
   }
-  if (PotworZycie(0) > 0 && Ostatni >= 0) {
+  if (!group_.isGone()) {
     Statystyki();
     return;
   }
   OpisZad.Caption = "Czysto!";
-  if (PotworNazwa == kLastMonster) {
+  if (group_.isLastOfTheGame()) {
     OpisZad.Caption = "Wygrałeś - tura " + str(bohater.Tura);
     play(sounds::kVictory);
   }
@@ -109,9 +103,7 @@ void Fight::Player_Save() {
   bohater.OstatniCzar = Czar.Text();
   bohater.OstatniPrzedmiot = Przedmiot.Text();
   bohater.OstatniaBron = Bron.Text();
-  ItemWriter out = runtime_.OpenForOutput(PlikBohatera);
-  brolgan::Player_Save(out, bohater);
-  out.close();
+  brolgan::Player_Save(runtime_.OpenForOutput(handedOver_.PlikBohatera), bohater);
 }
 
 void Fight::KoniecWalki() {
@@ -121,7 +113,7 @@ void Fight::KoniecWalki() {
     leaveGame(order);
     return;
   }
-  if (Przezyl && PotworNazwa == kLastMonster) {
+  if (Przezyl && group_.isLastOfTheGame()) {
     runtime_.End();
     return;
   }
@@ -141,10 +133,8 @@ void Fight::leaveGame(const PlayerOrder& order) {
     runtime_.End();
     return;
   }
-  std::vector<std::string> others;
-  for (int i = 1; i < order.count.value(); ++i) others.push_back(order.Gracz(i));
-  writePlayerOrder(runtime_.OpenForOutput(kGameFile), order.count - 1, others);
-  writeShop(runtime_.OpenForOutput(kShopFile), order.Gracz(1), Rzut(random_, 1, 4));
+  writePlayerOrder(runtime_.OpenForOutput(kGameFile), order.count - 1, othersOf(order));
+  writeShop(runtime_.OpenForOutput(kShopFile), order.Gracz(1), Rzut(random_, kAllDepartments, kWeaponsAlone));
   openShop();
 }
 
@@ -155,8 +145,8 @@ void Fight::recover() {
 
 // The kill counts once, however many the group had; only the sum of the points is rounded.
 void Fight::takeReward() {
-  bohater.Stwory(NrPotwora) += 1;
-  const double p = reward(bohater.Klasa, IlePotworow, PotworAtak, PotworPancerz(0));
+  bohater.Stwory(group_.NrPotwora) += 1;
+  const double p = reward(bohater.Klasa, group_.IlePotworow, group_.PotworAtak, group_.PotworPancerz(0));
   if (isClass(bohater.Klasa, kMonk)) recover();
   bohater.Ile_jeszcze = toInteger(bohater.Ile_jeszcze.value() + p);
   regenerate();
@@ -170,11 +160,10 @@ void Fight::regenerate() {
 
 // The hero of this fight goes to the end of the order.
 void Fight::passTurn(const PlayerOrder& order) {
-  std::vector<std::string> names;
-  for (int i = 1; i < order.count.value(); ++i) names.push_back(order.Gracz(i));
+  std::vector<std::string> names = othersOf(order);
   names.push_back(order.Gracz(0));
   writePlayerOrder(runtime_.OpenForOutput(kGameFile), order.count, names);
-  writeShop(runtime_.OpenForOutput(kShopFile), names.front(), Rzut(random_, 1, 4));
+  writeShop(runtime_.OpenForOutput(kShopFile), names.front(), Rzut(random_, kAllDepartments, kWeaponsAlone));
 }
 
 void Fight::openShop() { runtime_.Replace(kName, screens::kShop); }

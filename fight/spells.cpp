@@ -1,7 +1,8 @@
 // The hero's spells in the fight.
-#include <algorithm>
+#include "rules/spells.h"
+
 #include <array>
-#include <utility>
+#include <string_view>
 
 #include "fight/choices.h"
 #include "fight/fight.h"
@@ -10,89 +11,62 @@
 
 namespace brolgan {
 
-namespace {
+// Everything about one spell. BullShots costs what the player typed, the cost being the least.
+struct Fight::Spell {
+  std::string_view name;
+  bool (*isKnown)(const Bohater& hero);
+  int cost;
+  void (Fight::*effect)();
+  void (Fight::*afterwards)();
+  const char* sound;
+};
 
-constexpr std::array<std::pair<const char*, const char*>, 7> kCosts = {{{kHealingSpell, "1"},
-                                                                        {kDamageSpell, "2"},
-                                                                        {kBullShotsSpell, "2"},
-                                                                        {kBoomSpell, "4"},
-                                                                        {kClass3ASpell, "2"},
-                                                                        {kLuckSpell, "4"},
-                                                                        {kStrongHealingSpell, "2"}}};
+// In the order of the list.
+std::span<const Fight::Spell> Fight::spells() {
+  static constexpr std::array<Spell, 7> kRows = {{
+      {kHealingSpell, knowsSpell<kHealing>, 1, &Fight::castHealing, nullptr, sounds::kHealing},
+      {kDamageSpell, knowsSpell<kDamage>, 2, &Fight::castDamage, &Fight::removeFallen, sounds::kDamage},
+      {kBullShotsSpell, knowsSpell<kBullShots>, 2, &Fight::castBullShots, &Fight::removeFallen, sounds::kBullShots},
+      {kBoomSpell, knowsSpell<kBoom>, 4, &Fight::castBoom, &Fight::removeFallen, sounds::kBoom},
+      {kClass3ASpell, knowsSpell<kClass3A>, 2, &Fight::castClass3A, &Fight::Statystyki, sounds::kClass3A},
+      {kLuckSpell, knowsSpell<kLuck>, 4, &Fight::castLuck, &Fight::Statystyki, sounds::kLuck},
+      {kStrongHealingSpell, knowsStrongHealing, 2, &Fight::castStrongHealing, nullptr, sounds::kHealing},
+  }};
+  return kRows;
+}
 
-}  // namespace
+void Fight::Czary_Lista() {
+  for (const Spell& spell : spells()) {
+    if (spell.isKnown(bohater)) Czar.AddItem(std::string(spell.name));
+  }
+}
 
 void Fight::Czar_Click() {
-  const std::string spell = Czar.Text();
-  for (const auto& [name, cost] : kCosts) {
-    if (spell == name) mana.Text = cost;
-  }
-  mana.Enabled = spell == kBullShotsSpell;
+  const Spell* const spell = spellNamed(spells(), Czar.Text());
+  if (spell != nullptr) mana.Text = decimal(std::int64_t{spell->cost});
+  mana.Enabled = Czar.Text() == kBullShotsSpell;
 }
 
 // MEANT(berserker-cast): a Berserker's button looks live and does nothing.
 void Fight::Rzuc_Click() {
-  if (isClass(bohater.Klasa, kBerserker) || !MozeRzucac) return;
-  const std::string spell = Czar.Text();
-  if (spell == kHealingSpell) castHealing();
-  if (spell == kStrongHealingSpell) castStrongHealing();
-  if (spell == kDamageSpell) castDamage();
-  if (spell == kBullShotsSpell) castBullShots();
-  if (spell == kBoomSpell) castBoom();
-  if (spell == kClass3ASpell) castClass3A();
-  if (spell == kLuckSpell) castLuck();
+  if (isClass(bohater.Klasa, kBerserker) || !round_.MozeRzucac) return;
+  const Spell* const spell = spellNamed(spells(), Czar.Text());
+  if (spell != nullptr) cast(*spell);
 }
 
-void Fight::castHealing() {
-  if (bohater.AktMoc < 1) return;
-  heal(Rzut(random_, 1, 6));
-  payMagic(1);
-  play(sounds::kHealing);
-}
-
-void Fight::castStrongHealing() {
-  if (bohater.AktMoc < 2) return;
-  heal(Rzuty(random_, 1, 6, 2) + (bohater.Przedmioty(kStrongHealingCounter) - 1) * 2);
-  payMagic(2);
-  play(sounds::kHealing);
-}
-
-void Fight::castDamage() {
-  if (bohater.AktMoc < 2) return;
-  hit(Rzuty(random_, 1, 6, 3));
-  payMagic(2);
-  finishAttackSpell(sounds::kDamage);
-}
-
-void Fight::castBoom() {
-  if (bohater.AktMoc < 4) return;
-  hit(Rzuty(random_, 1, 30, 2));
-  payMagic(4);
-  finishAttackSpell(sounds::kBoom);
-}
-
-void Fight::castClass3A() {
-  if (bohater.AktMoc < 2) return;
-  Tury3A = Rzuty(random_, 1, 6, 2);
-  Pancerz3A = Rzuty(random_, 1, 10, 1);
-  payMagic(2);
-  finishSpell(sounds::kClass3A);
-}
-
-void Fight::castLuck() {
-  if (bohater.AktMoc < 4) return;
-  Fart += 1;
-  payMagic(4);
-  finishSpell(sounds::kLuck);
-}
-
-void Fight::castBullShots() {
-  const double x = typedMagic();
-  if (x < 2 || x > bohater.AktMoc.value()) return;
-  spreadBullShots(toInteger(Rzuty(random_, 1, 6, 3).value() + (x - 2) * 2));
-  bohater.AktMoc = toInteger(bohater.AktMoc.value() - x);
-  spendCast();
-  finishAttackSpell(sounds::kBullShots);
+// Nothing at all happens when the magic does not reach. A cast leaves the blow open, which is what
+// lets a staff strike after a spell.
+void Fight::cast(const Spell& spell) {
+  const double price = spell.name == kBullShotsSpell ? typedMagic() : spell.cost;
+  if (price < spell.cost || price > bohater.AktMoc.value()) return;
+  (this->*spell.effect)();
+  bohater.AktMoc = toInteger(bohater.AktMoc.value() - price);
+  Pstat[2].Caption = decimal(bohater.AktMoc);
+  round_.MozeRzucac = false;
+  round_.MozeStrzelac = false;
+  Rzuc.Enabled = false;
+  if (spell.afterwards != nullptr) (this->*spell.afterwards)();
+  play(spell.sound);
 }
 
 // The number that the player typed; anything else is a type mismatch that ends the program.
@@ -102,55 +76,55 @@ double Fight::typedMagic() const {
   return *number;
 }
 
-// MEANT(negative-spread): the harm to the others is under no test, so a target whose armour stops the shots makes
-// them gain endurance; and the weapon's sound is of the melee catalogue whatever is selected.
-void Fight::spreadBullShots(Integer damage) {
-  const Integer harm = damage - targetArmour();
-  if (harm > 0) {
-    FZad.Visible = true;
-    IleZad.Caption = str(harm) + " wszystkim!";
-    targetLife() -= harm;
-    play(katalog.KatalogWw(WybranaBron).dzwiek);
-  }
-  for (int i = 0; i < Ostatni.value(); ++i) PotworZycie(i) -= harm;
-}
+void Fight::castHealing() { healHero(rollHealing(random_)); }
 
-// The hit of a spell: it replaces the figure shown and never spreads or carries.
-void Fight::hit(Integer damage) {
-  const Integer harm = damage - targetArmour();
-  if (harm <= 0) return;
-  FZad.Visible = true;
-  IleZad.Caption = str(harm);
-  targetLife() -= harm;
-}
+void Fight::castStrongHealing() { healHero(rollStrongHealing(random_, bohater)); }
 
-void Fight::heal(Integer amount) {
-  bohater.AktWytrzymalosc = std::min(bohater.AktWytrzymalosc + amount, bohater.Wartosci(kEndurance));
+void Fight::healHero(Integer amount) {
+  heal(bohater, amount);
   Pstat[0].Caption = decimal(bohater.AktWytrzymalosc);
 }
 
-void Fight::payMagic(Integer cost) {
-  bohater.AktMoc -= cost;
-  spendCast();
+void Fight::castDamage() { hit(Rzuty(random_, 1, 6, 3)); }
+
+void Fight::castBoom() { hit(Rzuty(random_, 1, 30, 2)); }
+
+// The hit of a spell: it replaces the figure shown and never spreads or carries.
+void Fight::hit(Integer damage) {
+  const Integer harm = damage - group_.targetArmour();
+  if (harm <= 0) return;
+  FZad.Visible = true;
+  IleZad.Caption = str(harm);
+  group_.targetLife() -= harm;
 }
 
-// A cast leaves the blow open, which is what lets a staff strike after a spell.
-void Fight::spendCast() {
-  Pstat[2].Caption = decimal(bohater.AktMoc);
-  MozeRzucac = false;
-  MozeStrzelac = false;
-  Rzuc.Enabled = false;
+// MEANT(negative-spread): the harm to the others is under no test, so a target whose armour stops the shots makes
+// them gain endurance; and the weapon's sound is of the melee catalogue whatever is selected.
+void Fight::castBullShots() {
+  constexpr int kIncluded = 2;
+  constexpr int kEachFurther = 2;
+  const Integer roll = Rzuty(random_, 1, 6, 3);
+  const Integer damage = toInteger(roll.value() + (typedMagic() - kIncluded) * kEachFurther);
+  const Integer harm = damage - group_.targetArmour();
+  if (harm > 0) {
+    FZad.Visible = true;
+    IleZad.Caption = str(harm) + " wszystkim!";
+    group_.targetLife() -= harm;
+    play(katalog.weapons(WeaponKind::melee)(weapon_.WybranaBron).dzwiek);
+  }
+  group_.hurtOthers(harm);
 }
 
-void Fight::finishAttackSpell(const char* sound) {
+void Fight::castClass3A() {
+  effects_.Tury3A = Rzuty(random_, 1, 6, 2);
+  effects_.Pancerz3A = Rzuty(random_, 1, 10, 1);
+}
+
+void Fight::castLuck() { effects_.Fart += 1; }
+
+void Fight::removeFallen() {
   Zabici();
   Statystyki();
-  play(sound);
-}
-
-void Fight::finishSpell(const char* sound) {
-  Statystyki();
-  play(sound);
 }
 
 }  // namespace brolgan

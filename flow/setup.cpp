@@ -47,7 +47,7 @@ void Main::Start_Click() {
   std::vector<std::string> names(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) names[static_cast<std::size_t>(i)] = gracz[i].Text;
   writePlayerOrder(runtime_.OpenForOutput(kGameFile), count, names);
-  writeShop(runtime_.OpenForOutput(kShopFile), "hero1.boh", Rzut(random_, 1, 4));
+  writeShop(runtime_.OpenForOutput(kShopFile), "hero1.boh", Rzut(random_, kAllDepartments, kWeaponsAlone));
   runtime_.Hide(kName);
   runtime_.Show(screens::kShop);
   runtime_.Unload(kName);

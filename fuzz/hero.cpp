@@ -12,9 +12,7 @@ namespace {
 
 std::string saved(const Bohater& hero) {
   MemoryFiles files;
-  ItemWriter out(files, "hero.boh");
-  Player_Save(out, hero);
-  out.close();
+  Player_Save({files, "hero.boh"}, hero);
   return files.read("hero.boh");
 }
 

@@ -1,19 +1,24 @@
 #include "preparation/preparation.h"
 
-#include <algorithm>
+#include <string>
+#include <string_view>
 
 #include "flow/text/number_text.h"
 #include "game/names/names.h"
-#include "rules/consumables.h"
-#include "rules/development.h"
 #include "rules/handover.h"
+#include "rules/spells.h"
 
 namespace brolgan {
 
 namespace {
 
+constexpr Kostka kFishDice = {1, 6, 2, 0};
+constexpr Kostka kSnuffDice = {1, 6, 2, 0};
+constexpr int kImmortalityDie = 6;
+constexpr int kAutostartDie = 6;
+
 // A number behind a text and in brackets, as the notes of the rolls have it.
-std::string withNumber(const char* text, Integer number) { return text + ("(" + str(number) + ")"); }
+std::string withNumber(std::string_view text, Integer number) { return std::string(text) + "(" + str(number) + ")"; }
 
 }  // namespace
 
@@ -106,7 +111,7 @@ void Prefight::spend(int counter) {
 }
 
 void Prefight::useFish() {
-  const Integer roll = Rzuty(random_, 1, 6, 2);
+  const Integer roll = Rzuty(random_, kFishDice);
   Potwory(NrPotwora).Wytrzymalosc -= roll;
   spend(kFishCounter);
   Monstat[2].Caption = decimal(Potwory(NrPotwora).Wytrzymalosc);
@@ -121,7 +126,7 @@ void Prefight::useRhubarb() {
 }
 
 void Prefight::useSnuff() {
-  const Integer roll = Rzuty(random_, 1, 6, 2);
+  const Integer roll = Rzuty(random_, kSnuffDice);
   BonusPancerza += roll;
   spend(kSnuffCounter);
   tabak.Visible = true;
@@ -144,7 +149,7 @@ void Prefight::useLamp() {
 }
 
 void Prefight::useImmortality() {
-  const Integer roll = Rzut(random_, 1, 6);
+  const Integer roll = Rzut(random_, 1, kImmortalityDie);
   RundyNiesmiertelnosci += roll;
   spend(kImmortalityCounter);
   note("Stałem się nieśmiertelny (rund:" + str(roll) + ")");
@@ -153,73 +158,72 @@ void Prefight::useImmortality() {
 // Notes go behind whatever the box holds, the player's own words included.
 void Prefight::note(const std::string& text) { historia.Text += text; }
 
+// Everything about one spell; its effect answers the number for the note.
+struct Prefight::Spell {
+  std::string_view name;
+  bool (*isKnown)(const Bohater& hero);
+  int cost;
+  Integer (Prefight::*effect)();
+};
+
+// In the order of the list.
+std::span<const Prefight::Spell> Prefight::spells() {
+  static constexpr std::array<Spell, 3> kRows = {{
+      {kHealingSpell, knowsSpell<kHealing>, 1, &Prefight::castHealing},
+      {kAutostartSpell, knowsSpell<kAutostart>, 3, &Prefight::castAutostart},
+      {kStrongHealingSpell, knowsStrongHealing, 2, &Prefight::castStrongHealing},
+  }};
+  return kRows;
+}
+
 void Prefight::Czary_Lista() {
   while (Czary.ListCount() > 0) Czary.RemoveItem(0);
-  if (bohater.MaCzar(kHealing)) Czary.AddItem(kHealingSpell);
-  if (bohater.MaCzar(kAutostart)) Czary.AddItem(kAutostartSpell);
-  if (bohater.Przedmioty(kStrongHealingCounter) >= 1) Czary.AddItem(kStrongHealingSpell);
+  for (const Spell& spell : spells()) {
+    if (spell.isKnown(bohater)) Czary.AddItem(std::string(spell.name));
+  }
 }
 
 // MEANT(cost-shown-only): what is typed over the cost changes nothing.
 void Prefight::Czary_Click() {
-  const std::string spell = Czary.Text();
-  Koszt.Text = "0";
-  if (spell == kHealingSpell) Koszt.Text = "1";
-  if (spell == kAutostartSpell) Koszt.Text = "3";
-  if (spell == kStrongHealingSpell) Koszt.Text = "2";
+  const Spell* const spell = spellNamed(spells(), Czary.Text());
+  Koszt.Text = decimal(std::int64_t{spell == nullptr ? 0 : spell->cost});
 }
 
 void Prefight::Rzuc_Click() {
-  const std::string spell = Czary.Text();
-  if (spell == kStrongHealingSpell) castStrongHealing();
-  if (spell == kHealingSpell) castHealing();
-  if (spell == kAutostartSpell) castAutostart();
+  const Spell* const spell = spellNamed(spells(), Czary.Text());
+  if (spell != nullptr) cast(*spell);
 }
 
-bool Prefight::payMagic(Integer cost) {
-  if (bohater.AktMoc < cost) return false;
-  bohater.AktMoc -= cost;
-  return true;
-}
-
-void Prefight::heal(Integer amount) {
-  bohater.AktWytrzymalosc = std::min(bohater.AktWytrzymalosc + amount, bohater.Wartosci(kEndurance));
-  cur[0].Caption = decimal(bohater.AktWytrzymalosc);
+// Nothing at all happens when the magic does not reach.
+void Prefight::cast(const Spell& spell) {
+  if (bohater.AktMoc < spell.cost) return;
+  bohater.AktMoc -= spell.cost;
+  const Integer amount = (this->*spell.effect)();
   cur[1].Caption = decimal(bohater.AktMoc);
+  note("Rzuciłem " + withNumber(spell.name, amount) + " ");
 }
 
-void Prefight::castStrongHealing() {
-  if (!payMagic(2)) return;
-  const Integer amount = Rzuty(random_, 1, 6, 2) + (bohater.Przedmioty(kStrongHealingCounter) - 1) * 2;
-  heal(amount);
-  note(withNumber("Rzuciłem Czar Leczniczy", amount) + " ");
+Integer Prefight::castHealing() { return healHero(rollHealing(random_)); }
+
+Integer Prefight::castStrongHealing() { return healHero(rollStrongHealing(random_, bohater)); }
+
+// The note shows all that was rolled, also what the maximum cut.
+Integer Prefight::healHero(Integer amount) {
+  heal(bohater, amount);
+  cur[0].Caption = decimal(bohater.AktWytrzymalosc);
+  return amount;
 }
 
-void Prefight::castHealing() {
-  if (!payMagic(1)) return;
-  const Integer amount = Rzut(random_, 1, 6);
-  heal(amount);
-  note(withNumber("Rzuciłem Leczenie", amount) + " ");
-}
-
-void Prefight::castAutostart() {
-  if (!payMagic(3)) return;
-  const Integer gain = Rzut(random_, 1, 6);
+Integer Prefight::castAutostart() {
+  const Integer gain = Rzut(random_, 1, kAutostartDie);
   Inicjatywa += gain;
   Inic.Caption = decimal(Inicjatywa);
-  cur[1].Caption = decimal(bohater.AktMoc);
-  note(withNumber("Rzuciłem Autostart", gain) + " ");
+  return gain;
 }
 
 void Prefight::Zakoncz_Click() {
-  Player_Save();
+  Player_Save(runtime_.OpenForOutput(PlikBohatera), bohater);
   Fight_Start();
-}
-
-void Prefight::Player_Save() {
-  ItemWriter out = runtime_.OpenForOutput(PlikBohatera);
-  brolgan::Player_Save(out, bohater);
-  out.close();
 }
 
 // MEANT(tie-to-monster): a tie in speed goes to the monster.

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 
 #include "flow/stage/runtime.h"
@@ -64,7 +65,6 @@ class Prefight : public Form {
   void Czary_Lista();
   void Przedmioty_Lista();
   void applyHeadStart();
-  void Player_Save();
   void Fight_Start();
 
   void useFish();
@@ -74,11 +74,14 @@ class Prefight : public Form {
   void useLamp();
   void useImmortality();
   void spend(int counter);
-  void castStrongHealing();
-  void castHealing();
-  void castAutostart();
-  void heal(Integer amount);
-  bool payMagic(Integer cost);
+  // Spells, each a row of a table.
+  struct Spell;
+  static std::span<const Spell> spells();
+  void cast(const Spell& spell);
+  Integer castHealing();
+  Integer castStrongHealing();
+  Integer castAutostart();
+  Integer healHero(Integer amount);
   void note(const std::string& text);
 
   Runtime& runtime_;

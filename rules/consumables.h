@@ -16,6 +16,8 @@ inline constexpr int kSnuffCounter = 4;
 inline constexpr int kBarCounter = 5;
 inline constexpr int kLampCounter = 6;
 inline constexpr int kImmortalityCounter = 7;
+// How many the record has; those behind the last named mean nothing and are carried along.
+inline constexpr int kCounters = 17;
 
 inline constexpr const char* kFish = "Zatruta Ryba";
 inline constexpr const char* kRhubarb = "Rabarbar de'Cur";

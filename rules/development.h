@@ -8,11 +8,15 @@
 
 #include "flow/text/integer.h"
 #include "rules/dice.h"
+#include "rules/weapon_kind.h"
 
 namespace brolgan {
 
 // Statistics, in the order of Poziomy.
 enum Statistic { kEndurance, kArmour, kPower, kSpeed, kRegeneration, kModifier, kLives, kStatistics };
+
+// The first so many have their value in Wartosci; the modifier has dice and the lives are counted down.
+inline constexpr int kValues = kModifier;
 
 struct StatisticRow {
   const char* name;
@@ -23,10 +27,11 @@ struct StatisticRow {
 
 extern const std::array<StatisticRow, kStatistics> kStatisticTable;
 
-// The number that step stands for on a ladder of numbers. Raises 340 when the ladder has no such step.
+// The number that step stands for on a ladder of numbers. Raises noSuchControl when the ladder has
+// no such step: its label does not exist.
 Integer ladderValue(Statistic statistic, Integer step);
 
-// The damage modifier's dice at a step from 1 to 5. Raises 340 outside.
+// The damage modifier's dice at a step from 1 to 5. Raises noSuchControl outside.
 Kostka modifierDice(Integer step);
 
 // Classes. A hero's class is its caption, compared to the letter.
@@ -49,6 +54,9 @@ struct ClassRow {
   int meleePercent;
   int rangedPercent;
   int plus;
+
+  // What the class grants of percent on the weapons of a kind.
+  [[nodiscard]] int percent(WeaponKind kind) const { return kind == WeaponKind::ranged ? rangedPercent : meleePercent; }
 };
 
 extern const std::array<ClassRow, kClasses> kClassTable;

@@ -26,11 +26,14 @@ struct PlayerOrder {
   Array<std::string, kMost> Gracz;
 };
 
-// Reads the count and the names. Raises 9 when there are more than four.
+// Reads the count and the names. Raises a subscript error when there are more than four.
 PlayerOrder readPlayerOrder(ItemReader in);
 void writePlayerOrder(ItemWriter out, Integer count, const std::vector<std::string>& names);
 
-// sklep.cfg: whose shop opens, and how much of it.
+// Which departments of weapons, spells and statistics a shop opens, drawn between the first and last.
+enum ShopMode { kAllDepartments = 1, kStatisticsAlone, kSpellsAlone, kWeaponsAlone };
+
+// sklep.cfg: whose shop opens, and in what mode.
 void writeShop(ItemWriter out, const std::string& heroFile, Integer mode);
 
 // pref.cfg: the zone that a hero goes to, as bounds counted from 1.

@@ -4,22 +4,15 @@ namespace brolgan {
 
 namespace {
 
-struct WeaponSlots {
-  Array<bool, 10>& owned;
-  Array<Integer, 10>& percent;
-  Array<Integer, 10>& plus;
-  const char* ownedName;
-  const char* percentName;
-  const char* plusName;
+// What the fields of the weapon slots of a kind are called.
+struct SlotNames {
+  const char* owned;
+  const char* percent;
+  const char* plus;
 };
 
-void readSlots(ItemReader& in, const WeaponSlots& slots) {
-  for (int i = 0; i < 10; ++i) {
-    slots.owned(i) = in.flag({slots.ownedName, i});
-    slots.percent(i) = in.integer({slots.percentName, i});
-    slots.plus(i) = in.integer({slots.plusName, i});
-  }
-}
+constexpr SlotNames kMeleeNames = {"MaBronww", "BronwwProc", "BronwwPlus"};
+constexpr SlotNames kRangedNames = {"MaBronss", "BronssProc", "BronssPlus"};
 
 template <class Numbers>
 void readIntegers(ItemReader& in, Numbers& numbers, const char* name) {
@@ -31,18 +24,14 @@ void readFlags(ItemReader& in, Flags& flags, const char* name) {
   for (int i = 0; i < Flags::size; ++i) flags(i) = in.flag({name, i});
 }
 
+void readStep(ItemReader& in, Bohater& hero, int statistic, StepLines& lines) {
+  hero.Poziomy(statistic) = in.integer({"Poziomy", statistic});
+  lines[static_cast<std::size_t>(statistic)] = in.line();
+}
+
 template <class Numbers>
 void writeIntegers(ItemWriter& out, const Numbers& numbers) {
   for (const Integer number : numbers) out.integer(number);
-}
-
-void writeSlots(ItemWriter& out, const Array<bool, 10>& owned, const Array<Integer, 10>& percent,
-                const Array<Integer, 10>& plus) {
-  for (int i = 0; i < 10; ++i) {
-    out.flag(owned(i));
-    out.integer(percent(i));
-    out.integer(plus(i));
-  }
 }
 
 void writeBeginning(ItemWriter& out, const Bohater& hero) {
@@ -51,13 +40,13 @@ void writeBeginning(ItemWriter& out, const Bohater& hero) {
   out.string(hero.Klasa);
   out.integer(hero.AktWytrzymalosc);
   out.integer(hero.AktMoc);
-  for (int i = 0; i < 5; ++i) {
+  for (int i = 0; i < kValues; ++i) {
     out.integer(hero.Poziomy(i));
     out.integer(hero.Wartosci(i));
   }
-  out.integer(hero.Poziomy(5));
+  out.integer(hero.Poziomy(kModifier));
   writeOnOneLine(out, hero.MO);
-  out.integer(hero.Poziomy(6));
+  out.integer(hero.Poziomy(kLives));
   out.integer(hero.Wcielenia);
 }
 
@@ -71,23 +60,30 @@ void readPerson(ItemReader& in, Bohater& hero) {
   hero.AktMoc = in.integer("AktMoc");
 }
 
-void readStatistics(ItemReader& in, Bohater& hero) {
-  for (int i = 0; i < 5; ++i) {
-    hero.Poziomy(i) = in.integer({"Poziomy", i});
+void readStatistics(ItemReader& in, Bohater& hero, StepLines& lines) {
+  for (int i = 0; i < kValues; ++i) {
+    readStep(in, hero, i, lines);
     hero.Wartosci(i) = in.integer({"Wartosci", i});
   }
 }
 
-void readModifier(ItemReader& in, Bohater& hero) {
-  hero.Poziomy(5) = in.integer({"Poziomy", 5});
+void readModifier(ItemReader& in, Bohater& hero, StepLines& lines) {
+  readStep(in, hero, kModifier, lines);
   hero.MO = readDice(in);
-  hero.Poziomy(6) = in.integer({"Poziomy", 6});
+  readStep(in, hero, kLives, lines);
   hero.Wcielenia = in.integer("Wcielenia");
 }
 
 void readWeapons(ItemReader& in, Bohater& hero) {
-  readSlots(in, {hero.MaBronww, hero.BronwwProc, hero.BronwwPlus, "MaBronww", "BronwwProc", "BronwwPlus"});
-  readSlots(in, {hero.MaBronss, hero.BronssProc, hero.BronssPlus, "MaBronss", "BronssProc", "BronssPlus"});
+  for (const WeaponKind kind : kWeaponKinds) {
+    const auto slots = hero.slots(kind);
+    const SlotNames& names = kind == WeaponKind::melee ? kMeleeNames : kRangedNames;
+    for (int i = 0; i < kWeaponsOfAKind; ++i) {
+      slots.owned(i) = in.flag({names.owned, i});
+      slots.percent(i) = in.integer({names.percent, i});
+      slots.plus(i) = in.integer({names.plus, i});
+    }
+  }
 }
 
 // MEANT(fifth-flag-read): a new hero has a fifth gear flag on the line of the first counter; as a word it reads as 0.
@@ -108,21 +104,25 @@ void readHistory(ItemReader& in, Bohater& hero) {
 
 Bohater Player_Load(ItemReader in) {
   Bohater hero;
+  StepLines lines{};
   readPerson(in, hero);
-  readStatistics(in, hero);
-  readModifier(in, hero);
+  readStatistics(in, hero, lines);
+  readModifier(in, hero, lines);
   readWeapons(in, hero);
   readGoods(in, hero);
   readHistory(in, hero);
   return hero;
 }
 
-void writeMelee(ItemWriter& out, const Bohater& hero) {
-  writeSlots(out, hero.MaBronww, hero.BronwwProc, hero.BronwwPlus);
-}
-
-void writeRanged(ItemWriter& out, const Bohater& hero) {
-  writeSlots(out, hero.MaBronss, hero.BronssProc, hero.BronssPlus);
+void writeWeapons(ItemWriter& out, const Bohater& hero) {
+  for (const WeaponKind kind : kWeaponKinds) {
+    const auto slots = hero.slots(kind);
+    for (int i = 0; i < kWeaponsOfAKind; ++i) {
+      out.flag(slots.owned(i));
+      out.integer(slots.percent(i));
+      out.integer(slots.plus(i));
+    }
+  }
 }
 
 void writeItems(ItemWriter& out, const Bohater& hero) { writeIntegers(out, hero.Przedmioty); }
@@ -135,10 +135,9 @@ void writeLastChoices(ItemWriter& out, const Bohater& hero) {
 
 void writeKills(ItemWriter& out, const Bohater& hero) { writeIntegers(out, hero.Stwory); }
 
-void Player_Save(ItemWriter& out, const Bohater& hero) {
+void Player_Save(ItemWriter out, const Bohater& hero) {
   writeBeginning(out, hero);
-  writeMelee(out, hero);
-  writeRanged(out, hero);
+  writeWeapons(out, hero);
   writeFlags(out, hero.MaCzar);
   writeIntegers(out, hero.Wyp);
   writeFlags(out, hero.MaSpec);
@@ -146,6 +145,7 @@ void Player_Save(ItemWriter& out, const Bohater& hero) {
   out.integer(hero.Tura);
   writeLastChoices(out, hero);
   writeKills(out, hero);
+  out.close();
 }
 
 }  // namespace brolgan

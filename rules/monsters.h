@@ -10,6 +10,9 @@
 
 namespace brolgan {
 
+// How many monster numbers a hero's kills are counted by.
+inline constexpr int kMonsterNumbers = 45;
+
 struct Potwor {
   Integer Ilosc;
   std::string Nazwa;
@@ -25,7 +28,8 @@ struct Potwor {
 // The ten lines of one monster, or the same ten items of fight.cfg.
 Potwor readPotwor(ItemReader& in);
 
-// The whole list, from the count on. Raises 9 when it holds more than the array has places.
+// The whole list, from the count on. Raises a subscript error when it holds more than the array has
+// places.
 template <std::size_t Size>
 void Potwory_Load(ItemReader in, Array<Potwor, Size>& monsters) {
   const Integer count = in.integer("liczba potworów");

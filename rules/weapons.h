@@ -9,12 +9,14 @@
 #include "flow/text/array.h"
 #include "flow/text/item_reader.h"
 #include "rules/dice.h"
+#include "rules/weapon_kind.h"
 
 namespace brolgan {
 
 inline constexpr const char* kWeaponsFile = "bron.cfg";
 
-// One weapon. A melee weapon has czary and rezerwa, a ranged one ogien and wszyscy.
+// One weapon. A melee weapon has czary and rezerwa, a ranged one ogien and wszyscy; what the other
+// kind has stays False or 0.
 struct BronRecord {
   std::string nazwa;
   std::string dzwiek;
@@ -24,10 +26,15 @@ struct BronRecord {
   Integer rezerwa;
   Integer wszyscy;
   Integer cena;
+
+  // Whether its fire goes on to the next of the group, and whether it hits all of them. Any other
+  // value of the two fields means nothing.
+  [[nodiscard]] bool carriesFire() const { return ogien == 1; }
+  [[nodiscard]] bool hitsAll() const { return wszyscy == 2; }
 };
 
 // The names that the fight tells the twenty weapons by, melee first, in catalogue order.
-extern const std::array<const char*, 20> kWeaponNames;
+extern const std::array<const char*, kWeaponKinds.size() * kWeaponsOfAKind> kWeaponNames;
 
 // Places of note in the catalogue.
 inline constexpr int kFirstStaff = 1;
@@ -40,36 +47,44 @@ enum class CountReading { variant, integer };
 enum class FlagReading { text, boolean };
 
 Integer readCount(ItemReader& in, CountReading reading);
-BronRecord readMelee(ItemReader& in, FlagReading reading);
-BronRecord readRanged(ItemReader& in);
+BronRecord readWeapon(ItemReader& in, WeaponKind kind, FlagReading reading);
 
+// How many weapons of a kind the screens have places for; the fight has more.
+inline constexpr int kShelfPlaces = 11;
+inline constexpr int kFightPlaces = 101;
+
+// The weapons of both kinds in the order of the file. Asked by kind, none is a melee list: that is
+// where a place without a weapon selected points.
 template <std::size_t Capacity>
 struct Catalogue {
   Array<BronRecord, Capacity> KatalogWw;
   Array<BronRecord, Capacity> KatalogSs;
   Integer IleWw;
   Integer IleSs;
+
+  [[nodiscard]] auto& weapons(WeaponKind kind) { return kind == WeaponKind::ranged ? KatalogSs : KatalogWw; }
+  [[nodiscard]] const auto& weapons(WeaponKind kind) const {
+    return kind == WeaponKind::ranged ? KatalogSs : KatalogWw;
+  }
+  [[nodiscard]] Integer& count(WeaponKind kind) { return kind == WeaponKind::ranged ? IleSs : IleWw; }
 };
 
-// Reads the whole catalogue. Raises 9 when a list holds more than Capacity weapons.
+// Reads the whole catalogue. Raises a subscript error when a list holds more than Capacity weapons.
 template <std::size_t Capacity>
 void Bron_Load(ItemReader in, Catalogue<Capacity>& catalogue, CountReading counts, FlagReading flags) {
-  catalogue.IleWw = readCount(in, counts);
-  for (int i = 0; i < catalogue.IleWw.value(); ++i) {
-    if (i >= static_cast<int>(Capacity)) in.fail(ErrorCode::subscript, {"KatalogWw", i});
-    catalogue.KatalogWw(i) = readMelee(in, flags);
-  }
-  catalogue.IleSs = readCount(in, counts);
-  for (int i = 0; i < catalogue.IleSs.value(); ++i) {
-    if (i >= static_cast<int>(Capacity)) in.fail(ErrorCode::subscript, {"KatalogSs", i});
-    catalogue.KatalogSs(i) = readRanged(in);
+  for (const WeaponKind kind : kWeaponKinds) {
+    const char* const name = kind == WeaponKind::melee ? "KatalogWw" : "KatalogSs";
+    Integer& count = catalogue.count(kind) = readCount(in, counts);
+    for (int i = 0; i < count.value(); ++i) {
+      if (i >= static_cast<int>(Capacity)) in.fail(ErrorCode::subscript, {name, i});
+      catalogue.weapons(kind)(i) = readWeapon(in, kind, flags);
+    }
   }
 }
 
-// What a weapon's description says; the pieces keep their trailing blanks. Only the creation
-// screen warns of the price of "UltiGun".
-std::string describeMelee(const BronRecord& weapon);
-std::string describeRanged(const BronRecord& weapon);
+// What the description of a weapon of either kind says; the pieces keep their trailing blanks. Only
+// the creation screen warns of the price of "UltiGun".
+std::string describeWeapon(const BronRecord& weapon);
 inline constexpr const char* kUltiGunWarning = "10 % szans na utratę 1 wytrzymałości na stałe";
 
 }  // namespace brolgan

@@ -36,11 +36,11 @@ void FHero::listWeapons() {
   const auto entry = [](const BronRecord& weapon, Integer percent) {
     return weapon.nazwa + " (+" + decimal(percent) + "%)";
   };
-  for (int i = 0; i < katalog.IleWw.value(); ++i) {
-    if (bohater.MaBronww(i)) Bron.AddItem(entry(katalog.KatalogWw(i), bohater.BronwwProc(i)));
-  }
-  for (int i = 0; i < katalog.IleSs.value(); ++i) {
-    if (bohater.MaBronss(i)) Bron.AddItem(entry(katalog.KatalogSs(i), bohater.BronssProc(i)));
+  for (const WeaponKind kind : kWeaponKinds) {
+    const auto slots = bohater.slots(kind);
+    for (int i = 0; i < katalog.count(kind).value(); ++i) {
+      if (slots.owned(i)) Bron.AddItem(entry(katalog.weapons(kind)(i), slots.percent(i)));
+    }
   }
 }
 

@@ -44,8 +44,8 @@ class FHero : public Form {
 
   Runtime& runtime_;
   Bohater bohater;
-  Catalogue<11> katalog;
-  Array<Potwor, 46> Potwory;
+  Catalogue<kShelfPlaces> katalog;
+  Array<Potwor, kMonsterNumbers + 1> Potwory;
 };
 
 }  // namespace brolgan

@@ -43,7 +43,6 @@ std::array<CommandButton*, 12> CTsklep::zoneButtons() {
 }
 
 void CTsklep::Form_Load() {
-  for (int i = 0; i < kStatistics; ++i) PoziomyMax(i) = kStatisticTable[i].top();
   Sklep_Load();
   Bron_Load(runtime_.OpenForInput(kWeaponsFile), katalog, CountReading::integer, FlagReading::text);
   Bron_Lista();
@@ -58,10 +57,10 @@ void CTsklep::Sklep_Load() {
 
 // MEANT(odd-mode): any mode but the four leaves all departments open.
 void CTsklep::openDepartments(Integer mode) {
-  const bool chosenOne = mode >= 2 && mode <= 4;
-  fstat.Visible = !chosenOne || mode == 2;
-  fczar.Visible = !chosenOne || mode == 3;
-  fbron.Visible = !chosenOne || mode == 4;
+  const bool oneAlone = mode >= kStatisticsAlone && mode <= kWeaponsAlone;
+  fstat.Visible = !oneAlone || mode == kStatisticsAlone;
+  fczar.Visible = !oneAlone || mode == kSpellsAlone;
+  fbron.Visible = !oneAlone || mode == kWeaponsAlone;
 }
 
 void CTsklep::readHero(ItemReader in) {
@@ -70,9 +69,9 @@ void CTsklep::readHero(ItemReader in) {
   Ile_jeszcze.Caption = decimal(bohater.Ile_jeszcze);
   akt[0].Caption = decimal(bohater.AktWytrzymalosc);
   akt[1].Caption = decimal(bohater.AktMoc);
-  readStatistics(in, bohater);
+  readStatistics(in, bohater, stepLines_);
   rememberLostEndurance();
-  readModifier(in, bohater);
+  readModifier(in, bohater, stepLines_);
   akt[2].Caption = decimal(bohater.Wcielenia);
   markLadders();
   readWeapons(in, bohater);
@@ -85,7 +84,8 @@ void CTsklep::readHero(ItemReader in) {
 std::size_t CTsklep::stepPlace(int statistic) {
   const Integer index = bohater.Poziomy(statistic) - 1;
   if (index < 0 || index.value() >= PoziomyMax(statistic).value()) {
-    throw RuntimeError(ErrorCode::noSuchControl, {Plik.Text, 0, Field("Poziomy", statistic).text()});
+    const int line = stepLines_[static_cast<std::size_t>(statistic)];
+    throw RuntimeError(ErrorCode::noSuchControl, {Plik.Text, line, Field("Poziomy", statistic).text()});
   }
   return static_cast<std::size_t>(index.value());
 }
@@ -114,12 +114,9 @@ void CTsklep::PLUS_Click(int index) {
   if (points() <= 0) return;
   if (index > kLives) {
     addSupply(index - kStatistics);
-    return;
+  } else {
+    addStep(index, kShopStepPrice);
   }
-  if (points() < kShopStepPrice || bohater.Poziomy(index) >= PoziomyMax(index)) return;
-  bohater.Poziomy(index) += 1;
-  StatMark_Plus(index);
-  setPoints(points() - kShopStepPrice);
 }
 
 void CTsklep::Czarn_Click(int index) { buy(bohater.MaCzar(index), number(czarc[index]), Czarn[index]); }
@@ -135,9 +132,8 @@ void CTsklep::zone_Click(const Strefa& zone) {
 void CTsklep::Save_Click() {
   ItemWriter out = runtime_.OpenForOutput(Plik.Text);
   writeBeginning(out);
-  writeStatistics(out);
-  writeMelee(out, bohater);
-  writeRanged(out, bohater);
+  writeStatistics(out, UbytekWytrzymalosci, bohater.Wcielenia);
+  writeWeapons(out, bohater);
   writeGoods(out);
   out.rounded(bohater.Tura.value() + 1, "Tura");
   writeLastChoices(out, bohater);
@@ -153,22 +149,6 @@ void CTsklep::writeBeginning(ItemWriter& out) {
   out.string(bohater.Klasa);
   out.integer(bohater.AktWytrzymalosc);
   out.integer(bohater.AktMoc);
-}
-
-// MEANT(values-from-ladders): values come from the ladders and the modifier's dice from its step, whatever the file
-// said; only the endurance lost for good is kept.
-void CTsklep::writeStatistics(ItemWriter& out) {
-  out.integer(bohater.Poziomy(kEndurance));
-  const Integer value = ladderValue(kEndurance, bohater.Poziomy(kEndurance));
-  out.rounded(value.value() - UbytekWytrzymalosci.value(), {"Wartosci", kEndurance});
-  for (const Statistic statistic : {kArmour, kPower, kSpeed, kRegeneration}) {
-    out.integer(bohater.Poziomy(statistic));
-    out.integer(ladderValue(statistic, bohater.Poziomy(statistic)));
-  }
-  out.integer(bohater.Poziomy(kModifier));
-  writeOnOneLine(out, modifierDice(bohater.Poziomy(kModifier)));
-  out.integer(bohater.Poziomy(kLives));
-  out.integer(bohater.Wcielenia);
 }
 
 void CTsklep::writeGoods(ItemWriter& out) {

@@ -43,12 +43,11 @@ class CTsklep : public DevelopmentForm {
   void markLadders();
   void showGoods();
   void writeBeginning(ItemWriter& out);
-  void writeStatistics(ItemWriter& out);
   void writeGoods(ItemWriter& out);
   std::array<CommandButton*, 12> zoneButtons();
 
-  Array<Integer, kStatistics> PoziomyMax;
   Integer UbytekWytrzymalosci;
+  StepLines stepLines_{};
 };
 
 }  // namespace brolgan

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """render.py [--check] [NAME...]: makes the game's pictures from their sources.
 
-Each src/NAME.svg becomes a file in rendered/, at twice the size at which a screen shows it, so that
-it is sharp at 200 %; an icon becomes a file a size. The ledger remembers what each was made from: a
-source that has not changed since is not rendered again. --check renders nothing and fails when a
+Each src/NAME.svg becomes a file in rendered/, at the largest size at which a screen shows it or more,
+so that it is sharp at 200 %; an icon becomes a file a size. The ledger remembers what each was made
+from: a source that has not changed since is not rendered again. --check renders nothing and fails when a
 picture is missing, was made from something else, or has no source. Needs rsvg-convert and
 ImageMagick to render."""
 import hashlib
@@ -11,17 +11,17 @@ import os
 import subprocess
 import sys
 import tempfile
+from concurrent.futures import ThreadPoolExecutor, as_completed
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 SRC, OUT = os.path.join(HERE, "src"), os.path.join(HERE, "rendered")
 LEDGER = os.path.join(OUT, "ledger.txt")
 
-# Pictures that are no monsters: the files made of each source and their widths in pixels. A monster is
-# a JPEG of 832.
+# Pictures that are no monsters: the files made of each source and their widths in pixels.
 OTHERS = {
     "tytul": {"tytul.jpg": 2048}, "tytul-noc": {"tytul-noc.jpg": 2048}, "walka": {"walka.jpg": 2732},
-    "stragan-bron": {"stragan-bron.png": 640}, "stragan-czary": {"stragan-czary.png": 640},
-    "stragan-cechy": {"stragan-cechy.png": 640}, "szyld": {"szyld.png": 768}, "lampa": {"lampa.png": 240},
+    "stragan-bron": {"stragan-bron.png": 1000}, "stragan-czary": {"stragan-czary.png": 1000},
+    "stragan-cechy": {"stragan-cechy.png": 1000}, "szyld": {"szyld.png": 768}, "lampa": {"lampa.png": 240},
     "cios": {"cios.png": 240}, "rana": {"rana.png": 240}, "arkusz": {"arkusz.png": 144},
     "zamknij": {"zamknij.png": 96}, "zamknij-rana": {"zamknij-rana.png": 96},
     "tworz-miecz": {"tworz-miecz.png": 320}, "tworz-ksiega": {"tworz-ksiega.png": 320},
@@ -29,7 +29,14 @@ OTHERS = {
     "ikona": {"ikona.png": 512, "ikona-256.png": 256, "ikona-128.png": 128, "ikona-64.png": 64, "ikona-48.png": 48},
     "ikona-mala": {"ikona-32.png": 32, "ikona-24.png": 24, "ikona-16.png": 16},
 }
-MONSTER_WIDTH = 832
+MONSTER_WIDTH = 1248
+
+# Pixels drawn for a unit of the source before the picture is brought to its width: never fewer than the
+# width asks for, so that the detail is drawn and not enlarged.
+MONSTER_ZOOM, ICON_ZOOM, ZOOM = "2.5", "4", "2"
+
+# Colour at full resolution: at half of it the red edges bleed into the ink.
+JPEG = ["-quality", "80", "-sampling-factor", "4:4:4"]
 
 # 255 colours, each row as the difference to the one above: decodes in half the time of all colours. Not
 # as a palette, which is scaled down without blending its colours.
@@ -45,8 +52,19 @@ def targets(name):
     return OTHERS.get(name, {name + ".jpg": MONSTER_WIDTH})
 
 
+def zoom(name):
+    if name not in OTHERS:
+        return MONSTER_ZOOM
+    return ICON_ZOOM if name.startswith("ikona") else ZOOM
+
+
+def finish(picture):
+    return JPEG if picture.endswith("jpg") else FEW_COLOURS
+
+
 def fingerprint(name, picture):
-    digest = hashlib.sha256(repr((picture, targets(name)[picture])).encode())
+    recipe = (picture, targets(name)[picture], zoom(name), finish(picture))
+    digest = hashlib.sha256(repr(recipe).encode())
     for path in (os.path.join(SRC, name + ".svg"), os.path.join(HERE, "art-defs.xml"), os.path.join(HERE, "build.py")):
         with open(path, "rb") as file:
             digest.update(file.read())
@@ -67,17 +85,15 @@ def write_ledger(ledger):
 
 def shrink(big, picture, width):
     shape = ["-filter", "Lanczos", "-resize", f"{width}x", "-strip"]
-    finish = ["-quality", "84", "-sampling-factor", "4:2:0"] if picture.endswith("jpg") else FEW_COLOURS
-    subprocess.run(["convert", big, *shape, *finish, os.path.join(OUT, picture)], check=True)
+    subprocess.run(["convert", big, *shape, *finish(picture), os.path.join(OUT, picture)], check=True)
 
 
 def render(name, pictures):
     with tempfile.TemporaryDirectory() as folder:
         svg, big = os.path.join(folder, "a.svg"), os.path.join(folder, "a.png")
         subprocess.run([sys.executable, os.path.join(HERE, "build.py"), os.path.join(SRC, name + ".svg"),
-                        "-o", svg, "--scale", "2"], check=True)
-        zoom = "4" if name.startswith("ikona") else "2"
-        subprocess.run(["rsvg-convert", "-z", zoom, svg, "-o", big], check=True)
+                        "-o", svg, "--scale", zoom(name)], check=True)
+        subprocess.run(["rsvg-convert", "-z", zoom(name), svg, "-o", big], check=True)
         for picture in pictures:
             shrink(big, picture, targets(name)[picture])
 
@@ -104,15 +120,19 @@ def main():
     if "--check" in sys.argv:
         return check()
     os.makedirs(OUT, exist_ok=True)
-    ledger = read_ledger()
+    ledger, stale = read_ledger(), {}
     for name in sys.argv[1:] or sources():
-        stale = [picture for picture in targets(name) if not is_fresh(ledger, name, picture)]
-        if not stale:
-            continue
-        render(name, stale)
-        ledger.update({picture: fingerprint(name, picture) for picture in stale})
-        write_ledger(ledger)
-        print(*stale, flush=True)
+        pictures = [picture for picture in targets(name) if not is_fresh(ledger, name, picture)]
+        if pictures:
+            stale[name] = pictures
+    with ThreadPoolExecutor(os.cpu_count()) as pool:
+        done = {pool.submit(render, name, pictures): name for name, pictures in stale.items()}
+        for job in as_completed(done):
+            job.result()
+            name = done[job]
+            ledger.update({picture: fingerprint(name, picture) for picture in stale[name]})
+            write_ledger(ledger)
+            print(*stale[name], flush=True)
     return 0
 
 

@@ -1,6 +1,6 @@
 #include "desktop/layouts/departments.h"
 
-#include <array>
+#include <QListWidget>
 
 #include "desktop/layouts/grid.h"
 #include "rules/development.h"
@@ -9,19 +9,14 @@ namespace brolgan::desktop {
 
 namespace {
 
-// The small buttons that go with a row.
-void makeNarrow(QWidget& button) {
-  theme::makeNarrow(button);
-  button.setFixedSize(30, 24);
-}
-
 void addButtons(FormWindow& window, QGridLayout& grid, int row, int index) {
   int column = 1;
   for (const char* name : {"MINUS", "PLUS"}) {
-    const std::string button = member(name, index);
-    if (window.has(button)) {
-      makeNarrow(window.at(button));
-      grid.addWidget(&window.at(button), row, column);
+    if (window.has(member(name, index))) {
+      auto& button = window.at<QPushButton>(name, index);
+      theme::makeNarrow(button);
+      window.unit().fixed(button, 30, 24);
+      grid.addWidget(&button, row, column);
     }
     ++column;
   }
@@ -32,13 +27,12 @@ constexpr int kCurrentColumn = kLadderColumn + 12;
 
 void addLadder(FormWindow& window, QGridLayout& grid, int row, int index) {
   const std::string name = "stat" + std::to_string(index + 1);
-  const bool dice = index == kModifier;
+  const bool isDice = index == kModifier;
+  const int span = isDice ? 2 : 1;
   int column = kLadderColumn;
   for (int step = 0; window.has(member(name.c_str(), step)); ++step) {
-    QWidget& label = window.at(name, step);
-    alignCentre(label);
-    label.setMinimumWidth(dice ? 46 : 23);
-    const int span = dice ? 2 : 1;
+    QLabel& label = alignCentre(window.at<QLabel>(name, step));
+    window.unit().atLeast(label, isDice ? 52 : 23, 0);
     grid.addWidget(&label, row, column, 1, span);
     column += span;
   }
@@ -48,45 +42,45 @@ void addLadder(FormWindow& window, QGridLayout& grid, int row, int index) {
 void addCurrent(FormWindow& window, QGridLayout& grid, int row, int index) {
   const int place = index == kEndurance ? 0 : index == kPower ? 1 : index == kLives ? 2 : -1;
   if (place < 0 || !window.has(member("akt", place))) return;
-  QWidget& label = window.at("akt", place);
+  QLabel& label = alignRight(window.at<QLabel>("akt", place));
   makeBold(label);
-  alignRight(label);
-  label.setMinimumWidth(34);
+  window.unit().atLeast(label, 34, 0);
   grid.addWidget(&label, row, kCurrentColumn);
 }
 
-void layOutDesk(FormWindow& window, QGridLayout& grid, int column, const char* kind) {
-  const std::string k = kind;
-  const bool melee = k == "w";
-  const std::string list = melee ? "LBronww" : "Lbronss";
-  const std::string prefix = melee ? "BW" : "BS";
-  makeBold(window.at("Label7", melee ? 0 : 1));
-  grid.addWidget(&window.at("Label7", melee ? 0 : 1), 1, column, 1, 2);
-  window.at(list).setMinimumHeight(96);
-  grid.addWidget(&window.at(list), 2, column, 1, 2);
-  constexpr std::array<const char*, 4> details = {"nazwa", "dmg", "cena", "opis"};
-  for (int i = 0; i < 4; ++i) {
-    // Each screen heads the second row of details in its own order; the words decide the place.
-    QWidget* heading = nullptr;
-    constexpr std::array<const char*, 4> words = {"Nazwa", "Obrażenia", "Cena", "Opis"};
-    for (int j = melee ? 0 : 4; j < (melee ? 4 : 8); ++j) {
-      QLabel& candidate = label(window, member("Label6", j));
-      if (candidate.text() == QString::fromUtf8(words[static_cast<std::size_t>(i)])) heading = &candidate;
-    }
-    QWidget& value = window.at(prefix + details[static_cast<std::size_t>(i)]);
-    if (heading != nullptr) {
-      static_cast<QLabel*>(heading)->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-      grid.addWidget(heading, 3 + i, column);
-    }
-    static_cast<QLabel&>(value).setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    wrap(value);
-    grid.addWidget(&value, 3 + i, column + 1);
+// The names of the controls of a desk.
+struct Desk {
+  int heading;  // of "Label7"
+  const char* list;
+  std::array<const char*, 4> details;
+  const char* buy;
+  const char* sell;
+};
+
+constexpr Desk kMelee = {0, "LBronww", {"BWnazwa", "BWdmg", "BWcena", "BWopis"}, "Kupww", "Sprzedajww"};
+constexpr Desk kRanged = {1, "Lbronss", {"BSnazwa", "BSdmg", "BScena", "BSopis"}, "Kupss", "Sprzedajss"};
+
+void layOutDesk(FormWindow& window, QGridLayout& grid, int column, const Desk& desk,
+                const std::array<int, 4>& headings) {
+  auto& heading = window.at<QLabel>("Label7", desk.heading);
+  makeBold(heading);
+  grid.addWidget(&heading, 1, column, 1, 2);
+  auto& list = window.at<QListWidget>(desk.list);
+  window.unit().atLeast(list, 0, 96);
+  // A list would like a height that is told in pixels; it takes what is left.
+  list.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+  grid.addWidget(&list, 2, column, 1, 2);
+  for (std::size_t i = 0; i < headings.size(); ++i) {
+    const int row = 3 + static_cast<int>(i);
+    QLabel& value = alignTop(window.at<QLabel>(desk.details[i]));
+    value.setWordWrap(true);
+    grid.addWidget(&alignTop(window.at<QLabel>("Label6", headings[i])), row, column);
+    grid.addWidget(&value, row, column + 1);
   }
-  window.at(prefix + "opis").setMinimumHeight(36);
-  auto* buttons = bare<QHBoxLayout>();
-  buttons->addWidget(&window.at(melee ? "Kupww" : "Kupss"));
-  const std::string sell = melee ? "Sprzedajww" : "Sprzedajss";
-  if (window.has(sell)) buttons->addWidget(&window.at(sell));
+  window.unit().atLeast(window.at(desk.details.back()), 0, 36);
+  auto* buttons = bare<QHBoxLayout>(window);
+  buttons->addWidget(&window.at<QPushButton>(desk.buy));
+  if (window.has(desk.sell)) buttons->addWidget(&window.at<QPushButton>(desk.sell));
   grid.addLayout(buttons, 7, column, 1, 2);
   grid.setColumnStretch(column + 1, 1);
 }
@@ -94,79 +88,72 @@ void layOutDesk(FormWindow& window, QGridLayout& grid, int column, const char* k
 }  // namespace
 
 void layOutStatistics(FormWindow& window) {
-  QWidget& panel = window.at("fstat");
-  QGridLayout& grid = *gridIn(panel, 10, 4);
-  theme::makeHeading(window.at("Label4(0)"));
-  grid.addWidget(&window.at("Label4(0)"), 0, 0, 1, kCurrentColumn);
+  QGridLayout& grid = *gridIn(window, window.at("fstat"), 10, 4);
+  grid.addWidget(&label(window, "Label4(0)", Type::heading), 0, 0, 1, kCurrentColumn);
   for (int i = 0; i < kStatistics; ++i) {
-    grid.addWidget(&window.at("Label5", i), i + 1, 0);
+    grid.addWidget(&window.at<QLabel>("Label5", i), i + 1, 0);
     addButtons(window, grid, i + 1, i);
     addLadder(window, grid, i + 1, i);
     addCurrent(window, grid, i + 1, i);
-    grid.setRowMinimumHeight(i + 1, 27);
+    window.unit().row(grid, i + 1, 27);
   }
   grid.setColumnStretch(kCurrentColumn, 1);
 }
 
-void layOutWeapons(FormWindow& window) {
-  QGridLayout& grid = *gridIn(window.at("fbron"), 10, 4);
-  theme::makeHeading(window.at("Label3"));
-  grid.addWidget(&window.at("Label3"), 0, 0, 1, 2);
-  layOutDesk(window, grid, 0, "w");
-  grid.setColumnMinimumWidth(2, 10);
-  layOutDesk(window, grid, 3, "s");
+void layOutWeapons(FormWindow& window, const WeaponHeadings& headings) {
+  QGridLayout& grid = *gridIn(window, window.at("fbron"), 10, 4);
+  grid.addWidget(&label(window, "Label3", Type::heading), 0, 0, 1, 2);
+  layOutDesk(window, grid, 0, kMelee, headings.melee);
+  window.unit().column(grid, 2, 10);
+  layOutDesk(window, grid, 3, kRanged, headings.ranged);
   grid.setRowStretch(2, 1);
 }
 
 void layOutSpells(FormWindow& window) {
-  QGridLayout& grid = *gridIn(window.at("fczar"), 10, 3);
-  grid.setHorizontalSpacing(8);
-  theme::makeHeading(window.at("Label4(1)"));
-  grid.addWidget(&window.at("Label4(1)"), 0, 0);
+  QGridLayout& grid = *gridIn(window, window.at("fczar"), 10, 3);
+  window.unit().spacing(grid, 8, 3);
+  grid.addWidget(&label(window, "Label4(1)", Type::heading), 0, 0);
   // Name, price, description: the prices stand between, where the eye compares them.
   constexpr std::array<int, 3> columns = {0, 2, 1};
   for (int i = 0; i < 3; ++i) {
-    makeBold(window.at("Label11", i));
-    grid.addWidget(&window.at("Label11", i), 1, columns[static_cast<std::size_t>(i)]);
+    auto& heading = window.at<QLabel>("Label11", i);
+    makeBold(heading);
+    grid.addWidget(&heading, 1, columns[static_cast<std::size_t>(i)]);
   }
   for (int i = 0; i < kSpells; ++i) {
-    alignCentre(window.at("czarc", i));
-    theme::makeSmall(window.at("Label13", i));
-    wrap(window.at("Label13", i));
-    grid.addWidget(&window.at("Czarn", i), i + 2, 0);
-    grid.addWidget(&window.at("czarc", i), i + 2, 1);
-    grid.addWidget(&window.at("Label13", i), i + 2, 2);
-    grid.setRowMinimumHeight(i + 2, 24);
+    TextLabel& effect = label(window, member("Label13", i), Type::small);
+    effect.setWordWrap(true);
+    grid.addWidget(&window.at<ClickLabel>("Czarn", i), i + 2, 0);
+    grid.addWidget(&alignCentre(window.at<QLabel>("czarc", i)), i + 2, 1);
+    grid.addWidget(&effect, i + 2, 2);
+    window.unit().row(grid, i + 2, 24);
   }
   int row = kSpells + 2;
+  window.unit().row(grid, row++, 3);
   for (const char* name : {"Label10(0)", "Label10(1)", "Label12"}) {
-    theme::makeSmall(window.at(name));
-    grid.addWidget(&window.at(name), row++, 0, 1, 3);
+    grid.addWidget(&label(window, name, Type::small), row++, 0, 1, 3);
   }
   grid.setColumnStretch(2, 1);
 }
 
 void layOutGear(FormWindow& window) {
-  QGridLayout& grid = *gridIn(window.at("Frame4"), 10, 4);
-  theme::makeHeading(window.at("Label4(2)"));
-  grid.addWidget(&window.at("Label4(2)"), 0, 0, 1, 7);
+  QGridLayout& grid = *gridIn(window, window.at("Frame4"), 10, 4);
+  grid.addWidget(&label(window, "Label4(2)", Type::heading), 0, 0, 1, 7);
   for (int i = 0; i < kSupplies; ++i) {
-    QWidget& count = window.at("wyp", i);
+    QLabel& count = alignRight(window.at<QLabel>("wyp", i));
     makeBold(count);
-    alignRight(count);
-    count.setMinimumWidth(44);
-    grid.addWidget(&window.at(i == kGrenade ? "Label17" : "ammo"), i + 1, 0);
+    window.unit().atLeast(count, 44, 0);
+    grid.addWidget(&window.at<QLabel>(i == kGrenade ? "Label17" : "ammo"), i + 1, 0);
     addButtons(window, grid, i + 1, kStatistics + i);
     grid.addWidget(&count, i + 1, 3);
   }
   for (int i = 0; i < kGear; ++i) {
-    alignRight(window.at("Speccena", i));
-    grid.addWidget(&window.at("Spec", i), i + 1, 5);
-    grid.addWidget(&window.at("Speccena", i), i + 1, 6);
-    grid.setRowMinimumHeight(i + 1, 26);
+    grid.addWidget(&window.at<ClickLabel>("Spec", i), i + 1, 5);
+    grid.addWidget(&alignRight(window.at<QLabel>("Speccena", i)), i + 1, 6);
+    window.unit().row(grid, i + 1, 26);
   }
-  grid.setColumnMinimumWidth(4, 48);
-  grid.setColumnMinimumWidth(5, 110);
+  window.unit().column(grid, 4, 48);
+  window.unit().column(grid, 5, 110);
   grid.setColumnStretch(7, 1);
 }
 

@@ -2,12 +2,21 @@
 // and gear, each laid out in its frame.
 #pragma once
 
+#include <array>
+
 #include "desktop/form_window.h"
 
 namespace brolgan::desktop {
 
+// Which members of "Label6" head the name, the damage, the price and the description of a weapon; the
+// two screens count those of the second desk in opposite ways.
+struct WeaponHeadings {
+  std::array<int, 4> melee;
+  std::array<int, 4> ranged;
+};
+
 void layOutStatistics(FormWindow& window);
-void layOutWeapons(FormWindow& window);
+void layOutWeapons(FormWindow& window, const WeaponHeadings& headings);
 void layOutSpells(FormWindow& window);
 void layOutGear(FormWindow& window);
 

@@ -1,5 +1,7 @@
 // The fight: the monster in the middle; at its left the figures of the hero over its own, row under
 // row; at its right the blows dealt and taken, where their place is kept; the actions below.
+#include <QComboBox>
+#include <QLineEdit>
 #include <array>
 
 #include "desktop/layouts/grid.h"
@@ -12,54 +14,67 @@ namespace {
 constexpr int kHead = 64;
 constexpr int kFigures = 4;
 
-QFrame* panel(FormWindow& window) {
-  auto* frame = new QFrame(&window);
-  theme::makePanel(*frame);
-  return frame;
-}
-
 // Heading, and name beside value in four rows.
 QFrame* figures(FormWindow& window, int firstLegend, const char* values) {
   QFrame* const frame = panel(window);
-  QGridLayout& grid = *gridIn(*frame, 12, 6);
-  QWidget& heading = window.at("Label2", firstLegend);
-  theme::makeHeading(heading);
-  grid.addWidget(&heading, 0, 0, 1, 2);
+  QGridLayout& grid = *gridIn(window, *frame, 12, 6);
+  grid.addWidget(&label(window, member("Label2", firstLegend), Type::heading), 0, 0, 1, 2);
   for (int i = 0; i < kFigures; ++i) {
-    QWidget& value = window.at(values, i);
     const bool isDice = i == kFigures - 1;
-    isDice ? theme::makeFigure(value) : theme::makeBigFigure(value);
-    alignRight(value);
-    grid.addWidget(&window.at("Label2", firstLegend + 1 + i), 1 + i, 0);
-    grid.addWidget(&value, 1 + i, 1);
-    grid.setRowMinimumHeight(1 + i, 32);
+    grid.addWidget(&window.at<QLabel>("Label2", firstLegend + 1 + i), 1 + i, 0);
+    grid.addWidget(&figure(window, member(values, i), isDice ? Type::figure : Type::bigFigure), 1 + i, 1);
+    window.unit().row(grid, 1 + i, 32);
   }
   grid.setColumnStretch(0, 1);
   return frame;
 }
 
-void layOutReport(FormWindow& window, const char* frame, const std::array<const char*, 5>& parts) {
-  QGridLayout& grid = *gridIn(window.at(frame), 14, 6);
-  window.at(parts[0]).setFixedSize(104, 104);
-  theme::makeHeading(window.at(parts[1]));
-  theme::makeBigFigure(window.at(parts[2]));
-  theme::makeHeading(window.at(parts[3]));
-  wrap(window.at(parts[2]));
-  wrap(window.at(parts[3]));
-  window.at(parts[4]).setFixedSize(44, 44);
-  grid.addWidget(&window.at(parts[0]), 0, 0, 2, 1);
-  grid.addWidget(&window.at(parts[1]), 0, 1);
-  grid.addWidget(&window.at(parts[4]), 0, 2, Qt::AlignRight | Qt::AlignTop);
-  grid.addWidget(&window.at(parts[2]), 1, 1, 1, 2);
-  grid.addWidget(&window.at(parts[3]), 2, 0, 1, 3);
+// The controls of a report.
+struct Report {
+  const char* frame;
+  const char* picture;
+  const char* heading;
+  const char* blows;
+  const char* verdict;
+  const char* close;
+};
+
+constexpr Report kDealt = {"FZad", "Picture2", "Label4", "IleZad", "OpisZad", "CloseZad"};
+constexpr Report kTaken = {"FDamage", "Picture1", "Label3", "IleDMG", "OpisDMG", "CloseDMG"};
+
+// Words that keep to their place, however many there are.
+QLabel& words(FormWindow& window, const char* name, Type type, Qt::Alignment alignment) {
+  TextLabel& found = label(window, name, type);
+  found.setWordWrap(true);
+  found.keepToRoom();
+  found.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+  found.setAlignment(Qt::AlignLeft | alignment);
+  return found;
+}
+
+// The picture at the left; heading, blows and verdict under each other beside it.
+void layOutReport(FormWindow& window, const Report& report) {
+  QWidget& frame = window.at(report.frame);
+  QGridLayout& grid = *gridIn(window, frame, 12, 6);
+  auto& picture = window.at<PictureWidget>(report.picture);
+  auto& close = window.at<PictureButton>(report.close);
+  window.unit().fixed(picture, 96, 96);
+  window.unit().fixed(close, 44, 44);
+  window.unit().spacing(grid, 10, 4);
+  window.unit().row(grid, 2, 48);
+  grid.addWidget(&picture, 0, 0, 3, 1);
+  grid.addWidget(&label(window, report.heading, Type::heading), 0, 1);
+  grid.addWidget(&close, 0, 2, Qt::AlignRight | Qt::AlignTop);
+  grid.addWidget(&words(window, report.blows, Type::blow, Qt::AlignVCenter), 1, 1, 1, 2);
+  grid.addWidget(&words(window, report.verdict, Type::heading, Qt::AlignTop), 2, 1, 1, 2);
   grid.setColumnStretch(1, 1);
   grid.setRowStretch(1, 1);
-  keepRoom(window.at(frame));
+  keepRoom(frame);
 }
 
 // A report and the faint picture in its place while there is none.
 QGridLayout* over(FormWindow& window, const char* report, const QString& picture, QSize size) {
-  auto* place = bare<QGridLayout>(0);
+  auto* place = bare<QGridLayout>(window, 0);
   QWidget* const faint = decoration(window, picture, size);
   faint->setEnabled(false);
   place->addWidget(faint, 0, 0, Qt::AlignCenter);
@@ -70,14 +85,14 @@ QGridLayout* over(FormWindow& window, const char* report, const QString& picture
 
 // The way to the sheet, how far the monster is, and the figures of both, one over the other.
 QVBoxLayout* figuresOfBoth(FormWindow& window) {
-  auto* head = bare<QHBoxLayout>(8);
-  window.at("Heroshow").setFixedSize(kHead, kHead);
-  theme::makeHeading(window.at("Odl"));
-  head->addWidget(&window.at("Heroshow"));
+  auto* head = bare<QHBoxLayout>(window, 8);
+  auto& sheet = window.at<PictureButton>("Heroshow");
+  window.unit().fixed(sheet, kHead, kHead);
+  head->addWidget(&sheet);
   head->addStretch();
-  head->addWidget(&window.at("Label1"));
-  head->addWidget(&window.at("Odl"));
-  auto* column = bare<QVBoxLayout>(8);
+  head->addWidget(&window.at<QLabel>("Label1"));
+  head->addWidget(&label(window, "Odl", Type::heading));
+  auto* column = bare<QVBoxLayout>(window, 8);
   column->addLayout(head);
   column->addWidget(figures(window, 0, "Pstat"), 1);
   column->addWidget(figures(window, 5, "Mstat"), 1);
@@ -86,54 +101,67 @@ QVBoxLayout* figuresOfBoth(FormWindow& window) {
 
 // The warning, the blows dealt, the blows taken.
 QVBoxLayout* reports(FormWindow& window) {
-  layOutReport(window, "FZad", {"Picture2", "Label4", "IleZad", "OpisZad", "CloseZad"});
-  layOutReport(window, "FDamage", {"Picture1", "Label3", "IleDMG", "OpisDMG", "CloseDMG"});
-  QWidget& warning = window.at("Uwaga");
-  wrap(warning);
-  theme::makeHeading(warning);
-  warning.setMinimumHeight(kHead);
+  layOutReport(window, kDealt);
+  layOutReport(window, kTaken);
+  QLabel& warning = words(window, "Uwaga", Type::heading, Qt::AlignVCenter);
+  warning.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  window.unit().fixed(warning, 0, kHead);
   keepRoom(warning);
-  auto* column = bare<QVBoxLayout>(8);
+  auto* column = bare<QVBoxLayout>(window, 8);
   column->addWidget(&warning);
-  column->addLayout(over(window, "FZad", "kosci.png", {107, 187}), 1);
-  column->addLayout(over(window, "FDamage", "herb.png", {150, 150}), 1);
+  column->addLayout(over(window, kDealt.frame, "kosci.png", {107, 187}), 1);
+  column->addLayout(over(window, kTaken.frame, "herb.png", {150, 150}), 1);
   return column;
 }
 
 // The monster's picture; how many are left stands in its corner.
 QFrame* monster(FormWindow& window) {
   QFrame* const frame = panel(window);
-  QGridLayout& scene = *gridIn(*frame, 0, 0);
-  window.at("Potwór").setFixedSize(kMonster);
-  QWidget& left = window.at("LIle");
-  theme::makeBadge(static_cast<QLabel&>(left));
-  theme::makeBigFigure(left);
+  QGridLayout& scene = *gridIn(window, *frame, 0, 0);
+  auto& picture = window.at<PictureWidget>("Potwór");
+  window.unit().fixed(picture, kMonster, kMonster);
+  TextLabel& left = label(window, "LIle", Type::bigFigure);
+  theme::makeBadge(left);
+  window.unit().atLeast(left, 52, 0);
+  window.unit().fixed(left, 0, 52);
   alignCentre(left);
-  scene.addWidget(&window.at("Potwór"), 0, 0);
+  scene.addWidget(&picture, 0, 0);
   scene.addWidget(&left, 0, 0, Qt::AlignRight | Qt::AlignBottom);
   left.raise();
   return frame;
 }
 
+// A list over the button that does what is chosen in it.
+struct Action {
+  const char* list;
+  const char* button;
+};
+
+constexpr std::array kActions = {Action{"Bron", "Atak"}, Action{"Czar", "Rzuc"}, Action{"Przedmiot", "Uzyj"}};
+
 QFrame* actions(FormWindow& window) {
   QFrame* const frame = panel(window);
-  QGridLayout& grid = *gridIn(*frame, 8, 6);
-  grid.setHorizontalSpacing(8);
-  for (const char* list : {"Bron", "Czar", "Przedmiot"}) window.at(list).setMinimumSize(160, 32);
-  for (const char* button : {"Atak", "Rzuc", "Uzyj"}) window.at(button).setMinimumSize(110, 38);
-  window.at("mana").setFixedSize(52, 32);
-  grid.addWidget(&window.at("Bron"), 0, 0, 1, 2);
-  grid.addWidget(&window.at("Atak"), 1, 0, 1, 2);
-  grid.addWidget(&window.at("Czar"), 0, 3);
-  grid.addWidget(&window.at("mana"), 0, 4);
-  grid.addWidget(&window.at("Rzuc"), 1, 3, 1, 2);
-  grid.addWidget(&window.at("Przedmiot"), 0, 6, 1, 2);
-  grid.addWidget(&window.at("Uzyj"), 1, 6, 1, 2);
-  window.at("NastTura").setMinimumSize(190, 76);
-  theme::makeHeading(window.at("NastTura"));
-  grid.addWidget(&window.at("NastTura"), 0, 9, 2, 1);
-  for (const int gap : {2, 5, 8}) grid.setColumnMinimumWidth(gap, 18);
-  for (const int stretched : {0, 3, 6}) grid.setColumnStretch(stretched, 1);
+  QGridLayout& grid = *gridIn(window, *frame, 8, 6);
+  window.unit().spacing(grid, 8, 6);
+  int column = 0;
+  for (const Action& action : kActions) {
+    auto& list = window.at<QComboBox>(action.list);
+    auto& button = window.at<QPushButton>(action.button);
+    window.unit().atLeast(list, 160, 32);
+    window.unit().atLeast(button, 110, 38);
+    grid.addWidget(&list, 0, column);
+    grid.addWidget(&button, 1, column, 1, 2);
+    grid.setColumnStretch(column, 1);
+    window.unit().column(grid, column + 2, 18);
+    column += 3;
+  }
+  auto& mana = window.at<QLineEdit>("mana");
+  window.unit().fixed(mana, 52, 32);
+  grid.addWidget(&mana, 0, 4);
+  auto& next = window.at<QPushButton>("NastTura");
+  setType(window, next, Type::heading);
+  window.unit().atLeast(next, 190, 76);
+  grid.addWidget(&next, 0, column, 2, 1);
   return frame;
 }
 
@@ -141,16 +169,13 @@ QFrame* actions(FormWindow& window) {
 
 void layOutFight(FormWindow& window) {
   window.setBackground("walka.jpg");
-  auto* scene = bare<QHBoxLayout>(14);
+  auto* scene = bare<QHBoxLayout>(window, 14);
   scene->addLayout(figuresOfBoth(window), 1);
   scene->addWidget(monster(window), 0, Qt::AlignCenter);
   scene->addLayout(reports(window), 1);
-  auto* all = new QVBoxLayout(&window);
-  all->setContentsMargins(66, 56, 66, 54);
-  all->setSpacing(8);
+  auto* all = within<QVBoxLayout>(window, window.page(), {66, 56, 66, 54}, 8);
   all->addLayout(scene, 1);
   all->addWidget(actions(window));
-  window.resize(1340, 716);
 }
 
 }  // namespace brolgan::desktop

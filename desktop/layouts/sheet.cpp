@@ -1,4 +1,6 @@
 // The hero sheet: name and class, six figures, two lists.
+#include <QListWidget>
+
 #include "desktop/layouts/grid.h"
 #include "desktop/layouts/layouts.h"
 
@@ -6,52 +8,67 @@ namespace brolgan::desktop {
 
 namespace {
 
+constexpr int kFigures = 6;
+constexpr int kRows = 3;
+
+// A long name breaks its line, and is set smaller when that is not enough.
+QLabel& name(FormWindow& window, const char* control, Type type, Qt::Alignment alignment) {
+  TextLabel& found = label(window, control, type);
+  found.setWordWrap(true);
+  found.keepToRoom();
+  found.setAlignment(Qt::AlignLeft | alignment);
+  return found;
+}
+
+QGridLayout* head(FormWindow& window) {
+  auto* grid = bare<QGridLayout>(window, 2);
+  window.unit().spacing(*grid, 14, 2);
+  auto& close = window.at<PictureButton>("HeroClose");
+  window.unit().fixed(close, 48, 48);
+  grid->addWidget(decoration(window, "herb.png", {104, 104}), 0, 0, 2, 1);
+  grid->addWidget(&name(window, "Imie", Type::title, Qt::AlignBottom), 0, 1);
+  grid->addWidget(&name(window, "klasa", Type::heading, Qt::AlignTop), 1, 1);
+  grid->addWidget(&close, 0, 2, 2, 1, Qt::AlignTop);
+  grid->setColumnStretch(1, 1);
+  grid->setRowStretch(0, 3);
+  grid->setRowStretch(1, 2);
+  return grid;
+}
+
 QGridLayout* figures(FormWindow& window) {
-  auto* grid = bare<QGridLayout>(6);
-  for (int i = 0; i < 6; ++i) {
-    const int column = i < 3 ? 0 : 3;
-    theme::makeFigure(window.at("Pstat", i));
-    alignRight(window.at("Pstat", i));
-    grid->addWidget(&window.at("pstatl", i), i % 3, column);
-    grid->addWidget(&window.at("Pstat", i), i % 3, column + 1);
+  auto* grid = bare<QGridLayout>(window);
+  for (int i = 0; i < kFigures; ++i) {
+    const int column = i < kRows ? 0 : 3;
+    grid->addWidget(&window.at<QLabel>("pstatl", i), i % kRows, column);
+    grid->addWidget(&figure(window, member("Pstat", i), Type::figure), i % kRows, column + 1);
   }
-  grid->setColumnMinimumWidth(2, 28);
+  window.unit().column(*grid, 2, 28);
   grid->setColumnStretch(1, 1);
   grid->setColumnStretch(4, 1);
   return grid;
 }
 
 QVBoxLayout* list(FormWindow& window, const char* heading, const char* rows) {
-  auto* column = bare<QVBoxLayout>(4);
-  makeBold(window.at(heading));
-  column->addWidget(&window.at(heading));
-  column->addWidget(&window.at(rows), 1);
+  auto* column = bare<QVBoxLayout>(window, 4);
+  auto& words = window.at<QLabel>(heading);
+  makeBold(words);
+  column->addWidget(&words);
+  auto& list = window.at<QListWidget>(rows);
+  window.unit().atLeast(list, 120, 120);
+  column->addWidget(&list, 1);
   return column;
 }
 
 }  // namespace
 
 void layOutSheet(FormWindow& window) {
-  auto* all = new QVBoxLayout(&window);
-  all->setContentsMargins(18, 14, 18, 16);
-  all->setSpacing(10);
-  auto* head = bare<QGridLayout>(2);
-  theme::makeTitle(window.at("Imie"));
-  theme::makeHeading(window.at("klasa"));
-  window.at("HeroClose").setFixedSize(48, 48);
-  head->addWidget(decoration(window, "herb.png", {104, 104}), 0, 0, 2, 1);
-  head->addWidget(&window.at("Imie"), 0, 1, Qt::AlignBottom);
-  head->addWidget(&window.at("klasa"), 1, 1, Qt::AlignTop);
-  head->addWidget(&window.at("HeroClose"), 0, 2, 2, 1, Qt::AlignTop);
-  head->setHorizontalSpacing(14);
-  head->setColumnStretch(1, 1);
-  all->addLayout(head);
+  auto* all = within<QVBoxLayout>(window, window.page(), {18, 14, 18, 16}, 10);
+  all->addLayout(head(window));
   all->addLayout(figures(window));
-  auto* lists = bare<QHBoxLayout>(12);
+  auto* lists = bare<QHBoxLayout>(window, 12);
   lists->addLayout(list(window, "Label1", "Bron"), 1);
   lists->addLayout(list(window, "Label2", "Stwory"), 1);
   all->addLayout(lists, 1);
-  window.resize(560, 560);
 }
 
 }  // namespace brolgan::desktop

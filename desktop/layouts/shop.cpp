@@ -1,5 +1,7 @@
 // The shop: the hero and the zones at the left, the departments in the middle and at the right.
 // Behind each department lies the picture that shows when it is closed.
+#include <QLineEdit>
+
 #include "desktop/layouts/departments.h"
 #include "desktop/layouts/grid.h"
 #include "desktop/layouts/layouts.h"
@@ -8,10 +10,13 @@ namespace brolgan::desktop {
 
 namespace {
 
+constexpr WeaponHeadings kHeadings = {{0, 1, 2, 3}, {7, 6, 5, 4}};
+constexpr int kZones = 12;
+
 // A department and the picture behind it share one place.
 QGridLayout* stacked(FormWindow& window, const char* frame, int picture) {
-  auto* place = bare<QGridLayout>(0);
-  QWidget& shut = window.at("pics", picture);
+  auto* place = bare<QGridLayout>(window, 0);
+  auto& shut = window.at<PictureWidget>("pics", picture);
   shut.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
   keepRoom(window.at(frame));
   place->addWidget(&shut, 0, 0);
@@ -20,84 +25,76 @@ QGridLayout* stacked(FormWindow& window, const char* frame, int picture) {
   return place;
 }
 
-void layOutZones(FormWindow& window) {
-  auto* column = new QVBoxLayout(&window.at("Frame5"));
-  column->setContentsMargins(10, 8, 10, 8);
-  column->setSpacing(4);
-  for (int i = 1; i <= 12; ++i) {
-    QWidget& zone = window.at("w" + std::to_string(i));
-    zone.setMinimumHeight(38);
+QWidget* zones(FormWindow& window) {
+  QWidget& frame = window.at("Frame5");
+  auto* column = within<QVBoxLayout>(window, frame, {10, 8, 10, 8}, 4);
+  for (int i = 1; i <= kZones; ++i) {
+    auto& zone = window.at<QPushButton>("w" + std::to_string(i));
+    window.unit().atLeast(zone, 0, 36);
     column->addWidget(&zone);
   }
+  return &frame;
 }
 
 QGridLayout* person(FormWindow& window) {
-  auto* grid = bare<QGridLayout>(6);
-  theme::makeTitle(window.at("Label1"));
-  theme::makeHeading(window.at("Label2"));
-  theme::makeBigFigure(window.at("Ile_jeszcze"));
-  theme::makeHeading(window.at("Label15"));
-  theme::makeFigure(window.at("Tura"));
-  window.at("Heroshow").setFixedSize(64, 64);
-  grid->addWidget(&window.at("Label1"), 0, 0, 1, 2);
-  grid->addWidget(&window.at("Heroshow"), 0, 2, 2, 1, Qt::AlignRight);
-  grid->addWidget(&window.at("Imie"), 1, 0, 1, 2);
-  grid->addWidget(&window.at("Label2"), 2, 0, 1, 2);
-  grid->addWidget(&window.at("Ile_jeszcze"), 2, 2, Qt::AlignRight);
-  grid->addWidget(&window.at("Label15"), 3, 0, 1, 2);
-  grid->addWidget(&window.at("Tura"), 3, 2, Qt::AlignRight);
+  auto* grid = bare<QGridLayout>(window);
+  auto& sheet = window.at<PictureButton>("Heroshow");
+  window.unit().fixed(sheet, 64, 64);
+  grid->addWidget(&label(window, "Label1", Type::title), 0, 0, 1, 2);
+  grid->addWidget(&sheet, 0, 2, 2, 1, Qt::AlignRight);
+  grid->addWidget(&window.at<QLineEdit>("Imie"), 1, 0, 1, 2);
+  grid->addWidget(&label(window, "Label2", Type::heading), 2, 0, 1, 2);
+  grid->addWidget(&figure(window, "Ile_jeszcze", Type::bigFigure), 2, 2);
+  grid->addWidget(&label(window, "Label15", Type::heading), 3, 0, 1, 2);
+  grid->addWidget(&figure(window, "Tura", Type::figure), 3, 2);
   grid->setColumnStretch(1, 1);
   return grid;
 }
 
 QWidget* leftColumn(FormWindow& window) {
-  auto* left = new QWidget(&window);
-  auto* column = bare<QVBoxLayout>(8);
+  auto* left = new QWidget(&window.page());
+  auto* column = bare<QVBoxLayout>(window, 8);
   left->setLayout(column);
-  left->setFixedWidth(250);
+  window.unit().fixed(*left, 256, 0);
   column->addLayout(person(window));
-  wrap(window.at("Label14"));
-  theme::makeSmall(window.at("Label14"));
-  makeBold(window.at("Label14"));
-  column->addWidget(&window.at("Label14"));
-  layOutZones(window);
-  column->addWidget(&window.at("Frame5"));
+  TextLabel& warning = label(window, "Label14", Type::small);
+  warning.setWordWrap(true);
+  makeBold(warning);
+  column->addWidget(&warning);
+  column->addWidget(zones(window));
   column->addStretch();
   return left;
 }
 
 QHBoxLayout* signs(FormWindow& window) {
-  auto* row = bare<QHBoxLayout>(8);
+  auto* row = bare<QHBoxLayout>(window, 8);
   for (const int i : {0, 4}) {
-    window.at("pics", i).setMinimumSize(60, 60);
-    window.at("pics", i).setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    auto& picture = window.at<PictureWidget>("pics", i);
+    window.unit().atLeast(picture, 60, 60);
+    picture.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    row->addWidget(&picture, i == 0 ? 4 : 1);
   }
-  row->addWidget(&window.at("pics", 0), 4);
-  row->addWidget(&window.at("pics", 4), 1);
   return row;
 }
 
 }  // namespace
 
 void layOutShop(FormWindow& window) {
-  auto* columns = new QHBoxLayout(&window);
-  columns->setContentsMargins(12, 10, 12, 10);
-  columns->setSpacing(10);
   layOutStatistics(window);
-  layOutWeapons(window);
+  layOutWeapons(window, kHeadings);
   layOutSpells(window);
   layOutGear(window);
-  auto* middle = bare<QVBoxLayout>(10);
+  auto* middle = bare<QVBoxLayout>(window, 10);
   middle->addLayout(stacked(window, "fstat", 3));
   middle->addLayout(stacked(window, "fbron", 2), 1);
-  auto* right = bare<QVBoxLayout>(10);
+  auto* right = bare<QVBoxLayout>(window, 10);
   right->addLayout(stacked(window, "fczar", 1));
   right->addWidget(&window.at("Frame4"));
   right->addLayout(signs(window), 1);
+  auto* columns = within<QHBoxLayout>(window, window.page(), {12, 10, 12, 10}, 10);
   columns->addWidget(leftColumn(window));
-  columns->addLayout(middle, 5);
-  columns->addLayout(right, 4);
-  window.resize(1330, 712);
+  columns->addLayout(middle, 6);
+  columns->addLayout(right, 5);
 }
 
 }  // namespace brolgan::desktop

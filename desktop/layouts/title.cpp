@@ -1,21 +1,22 @@
 // The title: two pictures side by side, or one above the other in a tall window, on black.
+#include <QGuiApplication>
 #include <QResizeEvent>
 
 #include "desktop/layouts/grid.h"
 #include "desktop/layouts/layouts.h"
 #include "desktop/picture_store.h"
+#include "desktop/places.h"
 
 namespace brolgan::desktop {
 
 namespace {
 
 constexpr int kGap = 8;
-constexpr QSize kPicture(640, 404);
 
-// Turns the row of pictures into a column when the window is taller than wide.
+// Turns the row of pictures into a column when the page is taller than wide.
 class Turner : public QObject {
  public:
-  Turner(QBoxLayout& row, QWidget& window) : QObject(&window), row_(row) { window.installEventFilter(this); }
+  Turner(QBoxLayout& row, QWidget& page) : QObject(&page), row_(row) { page.installEventFilter(this); }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Resize) {
@@ -32,24 +33,30 @@ class Turner : public QObject {
 }  // namespace
 
 void prepareTitle(PictureStore& pictures, qreal ratio) {
-  for (const char* name : {"tytul.jpg", "tytul-noc.jpg"}) pictures.prepare(name, (QSizeF(kPicture) * ratio).toSize());
+  const qreal unit = Places::unitOn(*QGuiApplication::primaryScreen());
+  const QSize window = (QSizeF(screenLayout("Brolgan").size) * unit).toSize();
+  const int gap = qRound(kGap * unit);
+  const int both = window.width() - 3 * gap;
+  const auto prepare = [&](const char* name, int width) {
+    pictures.prepare(name, (QSizeF(width, window.height() - 2 * gap) * ratio).toSize());
+  };
+  prepare("tytul.jpg", (both + 1) / 2);
+  prepare("tytul-noc.jpg", both / 2);
 }
 
 void layOutTitle(FormWindow& window) {
   QPalette palette = window.palette();
   palette.setColor(QPalette::Window, theme::kInk);
   window.setPalette(palette);
-  auto* row = new QBoxLayout(QBoxLayout::LeftToRight, &window);
-  row->setContentsMargins(kGap, kGap, kGap, kGap);
-  row->setSpacing(kGap);
+  auto* row = new QBoxLayout(QBoxLayout::LeftToRight, &window.page());
+  window.unit().margins(*row, {kGap, kGap, kGap, kGap});
+  window.unit().spacing(*row, kGap);
   for (int i = 0; i < 2; ++i) {
-    QWidget& picture = window.at("pics", i);
-    picture.setMinimumSize(160, 100);
+    auto& picture = window.at<PictureWidget>("pics", i);
     picture.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     row->addWidget(&picture, 1);
   }
-  new Turner(*row, window);
-  window.resize(2 * kPicture.width() + 3 * kGap, kPicture.height() + 2 * kGap);
+  new Turner(*row, window.page());
 }
 
 }  // namespace brolgan::desktop

@@ -15,11 +15,24 @@ bool fetch(void* library, const char* name, Function& function) {
   return function != nullptr;
 }
 
+// Under SDL lies the library of the sound cards, which tells of a machine without one on standard error.
+constexpr const char* kCards = "libasound.so.2";
+using TellError = void (*)(const char* file, int line, const char* function, int code, const char* words, ...);
+
+void tellNothing(const char*, int, const char*, int, const char*, ...) {}
+
+void keepCardsQuiet() {
+  void* const cards = dlopen(kCards, RTLD_NOW | RTLD_LOCAL);
+  int (*setTeller)(TellError) = nullptr;
+  if (cards != nullptr && fetch(cards, "snd_lib_error_set_handler", setTeller)) setTeller(tellNothing);
+}
+
 }  // namespace
 
 bool loadSdl(SdlLibrary& sdl) {
   void* const library = dlopen(kLibrary, RTLD_NOW | RTLD_LOCAL);
   if (library == nullptr) return false;
+  keepCardsQuiet();
   const auto has = [library](const char* name, auto& function) { return fetch(library, name, function); };
   return has("SDL_SetHint", sdl.SetHint) && has("SDL_InitSubSystem", sdl.InitSubSystem) &&
          has("SDL_QuitSubSystem", sdl.QuitSubSystem) && has("SDL_OpenAudioDevice", sdl.OpenAudioDevice) &&

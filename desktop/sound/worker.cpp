@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <exception>
 
+#include "desktop/sound/variants.h"
+
 namespace brolgan::desktop {
 
 namespace {
@@ -29,7 +31,7 @@ class Worker {
     if (!awake_) {
       if (order.file) wakeFor(order);
     } else if (order.file) {
-      backend_->play(order.player, pathOf(*order.file));
+      backend_->play(order.player, variants_.next(pathOf(*order.file)));
     } else {
       backend_->stop(order.player);
     }
@@ -58,6 +60,7 @@ class Worker {
   Mailbox& mailbox_;
   const BackendMaker& make_;
   std::unique_ptr<SoundBackend> backend_;
+  Variants variants_;
   std::chrono::milliseconds restAfter_;
   bool awake_ = false;
 };

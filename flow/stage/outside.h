@@ -24,8 +24,8 @@ class Pictures {
   Pictures& operator=(const Pictures&) = delete;
   virtual ~Pictures() = default;
 
-  // Makes the picture of that file name ready to be shown. Raises 53 when the file is missing and
-  // 481 when it holds no picture.
+  // Makes the picture of that file name ready to be shown. Raises fileNotFound when the file is
+  // missing and invalidPicture when it holds no picture, or only the beginning of one.
   virtual void load(const std::string& name) = 0;
 };
 

@@ -65,10 +65,10 @@ class Runtime {
   // Seconds since midnight.
   double Timer() { return outside_.clock.timer(); }
   Sounds& sounds() { return outside_.sounds; }
-  ItemReader OpenForInput(const std::string& name) { return {name, outside_.files.read(name)}; }
+  ItemReader OpenForInput(const std::string& name) { return {name, outside_.files.open(name)}; }
   ItemWriter OpenForOutput(const std::string& name) { return {outside_.files, name}; }
   // The picture of that file name, ready to be put into a picture box; an empty name is no
-  // picture. Raises 53 when the file is missing and 481 when it is no picture.
+  // picture. Raises fileNotFound when the file is missing and invalidPicture when it is no picture.
   std::string LoadPicture(const std::string& name);
 
  private:

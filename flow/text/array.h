@@ -14,7 +14,7 @@ class Array {
  public:
   static constexpr int size = static_cast<int>(Size);
 
-  // The element at index; raises run-time error 9 outside 0 to size - 1.
+  // The element at index; raises subscript outside 0 to size - 1.
   Element& operator()(Integer index) { return places_[check(index)]; }
   const Element& operator()(Integer index) const { return places_[check(index)]; }
 

@@ -8,7 +8,7 @@
 
 namespace brolgan {
 
-// Raises run-time error 6 (overflow). Stands apart so that Integer stays cheap to inline.
+// Raises overflow. Stands apart so that Integer stays cheap to inline.
 [[noreturn]] void raiseOverflow();
 
 class Integer {

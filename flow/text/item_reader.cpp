@@ -23,6 +23,9 @@ std::string Field::text() const {
 
 ItemReader::ItemReader(std::string name, std::string bytes) : name_(std::move(name)), bytes_(std::move(bytes)) {}
 
+ItemReader::ItemReader(std::string name, OpenFile file)
+    : name_(std::move(name)), bytes_(std::move(file.bytes)), rest_(std::move(file.rest)) {}
+
 std::string ItemReader::string(const Field& field) {
   begin(field);
   skipBlanks();
@@ -63,7 +66,23 @@ void ItemReader::fail(ErrorCode code, const Field& field) const {
 
 void ItemReader::begin(const Field& field) {
   itemLine_ = line_;
+  if (rest_ && at_ >= fetched_) fetchLine();
   if (atEnd()) fail(ErrorCode::pastEnd, field);
+}
+
+// Brings the rest of the line to hand with all that ends it: a carriage return that is the last byte
+// at hand may have its line feed yet to come.
+void ItemReader::fetchLine() {
+  std::size_t searched = at_;
+  while (rest_) {
+    const std::size_t end = std::min(bytes_.find_first_of("\r\n", searched), bytes_.size());
+    fetched_ = end + 1;
+    if (fetched_ < bytes_.size() || (fetched_ == bytes_.size() && bytes_[end] == '\n')) return;
+    searched = end - at_;
+    bytes_.erase(0, at_);
+    at_ = 0;
+    if (!rest_->appendTo(bytes_)) rest_.reset();
+  }
 }
 
 void ItemReader::skipBlanks() { at_ = std::min(bytes_.find_first_not_of(' ', at_), bytes_.size()); }

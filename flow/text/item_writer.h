@@ -15,7 +15,7 @@ namespace brolgan {
 
 class ItemWriter {
  public:
-  // Creates or empties the file; raises 75 or 76 when that is not possible.
+  // Creates or empties the file; raises pathAccess or pathNotFound when that is not possible.
   ItemWriter(Files& files, std::string name);
   ItemWriter(const ItemWriter&) = delete;
   ItemWriter& operator=(const ItemWriter&) = delete;
@@ -24,12 +24,12 @@ class ItemWriter {
   void string(std::string_view text);
   void flag(bool set);
   void integer(Integer number);
-  // A number of a caption or a sum as an Integer, rounded with ties to even. Raises 6, with the
-  // file, the line and the field, when it is beyond the range of one.
+  // A number of a caption or a sum as an Integer, rounded with ties to even. Raises
+  // overflow, with the file, the line and the field, when it is beyond the range of one.
   void rounded(double number, const Field& field);
   // Several numbers side by side on one line.
   void integers(std::initializer_list<Integer> numbers);
-  // Stores all lines; raises 57 when they cannot be stored. Nothing may be written after it.
+  // Stores all lines; raises deviceIo when they cannot be stored. Nothing may be written after it.
   void close();
 
  private:

@@ -13,7 +13,7 @@ namespace brolgan {
 // To the nearest whole number, ties to the even neighbour.
 double round(double number);
 
-// round, then an Integer; raises run-time error 6 outside the range of one.
+// round, then an Integer; raises overflow outside the range of one.
 Integer toInteger(double number);
 
 // Decimal text with a leading blank when the number is not negative (" 12", "-3").

@@ -36,7 +36,8 @@ namespace {
 
 std::string describe(ErrorCode code, const ErrorPlace& place) {
   std::string text = "Błąd wykonania " + std::to_string(static_cast<int>(code)) + ": " + wording(code);
-  if (!place.file.empty()) text += "\nPlik: " + place.file;
+  const bool isEmptyName = code == ErrorCode::pathAccess && place.file.empty();
+  if (isEmptyName || !place.file.empty()) text += "\nPlik: " + (isEmptyName ? "(pusta nazwa)" : place.file);
   if (place.line > 0) text += "\nWiersz: " + std::to_string(place.line);
   if (!place.field.empty()) text += "\nPole: " + place.field;
   return text;

@@ -23,7 +23,8 @@ enum class ErrorCode {
 // The wording of an error, in Polish, without number or place.
 const char* wording(ErrorCode code);
 
-// Where an error fell, as far as that is known; line 0 and empty texts mean unknown.
+// Where an error fell, as far as that is known; line 0 and empty texts mean unknown. An access that
+// is refused always has a file, so that its empty text is an empty name.
 struct ErrorPlace {
   std::string file;
   int line = 0;

@@ -57,6 +57,12 @@ TEST_F(CreationDesign, HasNoControlBesides) {
 
 TEST_F(CreationDesign, IsCalledAfterTheMakingOfAHero) { EXPECT_EQ(screen.Caption, "Tworzenie bohatera"); }
 
+TEST_F(CreationDesign, HasEachPictureInItsOwnBox) {
+  EXPECT_EQ(screen.pics[0].Picture, "tworz-miecz.png");
+  EXPECT_EQ(screen.pics[1].Picture, "tworz-ksiega.png");
+  EXPECT_EQ(screen.pics[2].Picture, "tworz-kufel.png");
+}
+
 TEST_F(CreationDesign, HidesTheFileNameAlone) { EXPECT_EQ(hiddenControls(screen), Lines({"Plik"})); }
 
 TEST_F(CreationDesign, DisablesTheFiveGoodsThatCannotBeHad) {

@@ -238,6 +238,33 @@ TEST_F(CreationGoods, AreTakenBackWhilePointsAreOwed) {
   EXPECT_FALSE(isRed("Czarn(0)"));
 }
 
+TEST_F(CreationGoods, OfOneNameAreTheFirstOfThemToBuyAndToSell) {
+  const Weapons twins = {{"Nóż", {1, 4, 1, 0}, 1, "0"}, {"Bliźniak", {1, 6, 1, 0}, 3, "0"}, {"Bliźniak", {}, 5, "0"}};
+  world.write(kWeaponsFile, catalogueLines(twins, twins));
+  openCreation("12");
+  pick("LBronww", 2);
+  EXPECT_EQ(caption("BWcena"), "3");
+  press("Kupww");
+  EXPECT_EQ(points(), "9");
+  pick("Lbronss", 2);
+  EXPECT_EQ(caption("BScena"), "3");
+  press("Kupss");
+  EXPECT_EQ(points(), "6");
+  press("Sprzedajww");
+  EXPECT_EQ(points(), "9");
+  press("Sprzedajss");
+  EXPECT_EQ(points(), "12");
+  press("Sprzedajww");
+  press("Sprzedajss");
+  EXPECT_EQ(points(), "12");
+
+  const Lines file = saved();
+  EXPECT_EQ(file.at(22), "False");
+  EXPECT_EQ(file.at(25), "False");
+  EXPECT_EQ(file.at(52), "False");
+  EXPECT_EQ(file.at(55), "False");
+}
+
 TEST_F(CreationGoods, LeaveTheLastChoiceInPlaceForTheTwoButtons) {
   openCreation("12");
   pick("LBronww", 6);

@@ -52,6 +52,21 @@ TEST_F(CreationPoints, BuyNothingWithABudgetOfNoneButGiveBackAll) {
   EXPECT_EQ(marks(), kFirstSteps);
 }
 
+TEST_F(CreationPoints, ComeBackFromEachRowWhenExactlyNoneAreLeft) {
+  const std::vector<std::string> prices = {"1", "1", "1", "1", "1", "1", "2", "1", "1"};
+  for (int i = 0; i < 9; ++i) {
+    const std::string& price = prices[static_cast<std::size_t>(i)];
+    world.runtime.Unload(form);
+    openCreation(price);
+    const Lines before = picture();
+    press(numbered("PLUS", i));
+    ASSERT_EQ(points(), "0") << i;
+    press(numbered("MINUS", i));
+    EXPECT_EQ(points(), price) << i;
+    EXPECT_EQ(picture(), before) << i;
+  }
+}
+
 TEST_F(CreationPoints, OfOneBuyNoLife) {
   openCreation("1");
   const Lines before = picture();

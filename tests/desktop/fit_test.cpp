@@ -2,180 +2,19 @@
 // longest words and figures that the game can put there.
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLayout>
-#include <QListWidget>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QScreen>
-#include <QStyleOptionButton>
-#include <QStyleOptionComboBox>
-#include <algorithm>
 
 #include "rules/development.h"
 #include "rules/monsters.h"
 #include "tests/desktop/expected.h"
+#include "tests/desktop/fits.h"
+#include "tests/desktop/late_hero.h"
 #include "tests/desktop/scenes.h"
 
 namespace brolgan::test {
 namespace {
 
 constexpr QSize kScreen(1366, 768);
-constexpr int kWindowFrame = 30;
-
-std::string nameOf(const QWidget& widget) {
-  return widget.window()->objectName().toStdString() + "." + widget.objectName().toStdString();
-}
-
-std::string spelled(QSize size) { return std::to_string(size.width()) + "x" + std::to_string(size.height()); }
-
-bool fits(QSize size, QSize need) { return size.width() >= need.width() && size.height() >= need.height(); }
-
-// The room that a label's words need: as wide as its longest word when it breaks its lines.
-QSize needOf(const QLabel& label) {
-  if (!label.wordWrap()) return label.sizeHint();
-  int longest = 0;
-  for (const QString& word : label.text().split(' ')) {
-    longest = std::max(longest, label.fontMetrics().horizontalAdvance(word));
-  }
-  return {longest, label.heightForWidth(label.width())};
-}
-
-QSize roomOf(const QPushButton& button) {
-  QStyleOptionButton option;
-  option.initFrom(&button);
-  option.text = button.text();
-  return button.style()->subElementRect(QStyle::SE_PushButtonContents, &option, &button).size();
-}
-
-QSize roomOf(const QComboBox& combo) {
-  QStyleOptionComboBox option;
-  option.initFrom(&combo);
-  return combo.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &combo).size();
-}
-
-QSize textSize(const QWidget& widget, const QString& text) {
-  return {widget.fontMetrics().horizontalAdvance(text), widget.fontMetrics().height()};
-}
-
-void expectRoom(const QWidget& widget, QSize room, QSize need, const QString& text) {
-  EXPECT_TRUE(fits(room, need)) << nameOf(widget) << " \"" << text.toStdString() << "\" has " << spelled(room)
-                                << " and needs " << spelled(need);
-}
-
-void expectTextFits(const QWidget& widget) {
-  if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
-    if (!label->text().isEmpty()) expectRoom(widget, label->size(), needOf(*label), label->text());
-  } else if (const auto* button = qobject_cast<const QPushButton*>(&widget)) {
-    expectRoom(widget, roomOf(*button), {textSize(widget, button->text()).width(), widget.fontMetrics().ascent()},
-               button->text());
-  } else if (const auto* option = qobject_cast<const QRadioButton*>(&widget)) {
-    expectRoom(widget, option->size(), option->sizeHint(), option->text());
-  } else if (const auto* box = qobject_cast<const QGroupBox*>(&widget)) {
-    expectRoom(widget, box->size(), {textSize(widget, box->title()).width() + 30, 30}, box->title());
-  }
-}
-
-void expectRowsFit(const QWidget& widget) {
-  if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
-    for (int i = 0; i < combo->count(); ++i) {
-      expectRoom(widget, roomOf(*combo), textSize(widget, combo->itemText(i)), combo->itemText(i));
-    }
-  } else if (const auto* list = qobject_cast<const QListWidget*>(&widget)) {
-    for (int i = 0; i < list->count(); ++i) {
-      const QRect row = list->visualItemRect(list->item(i));
-      expectRoom(widget, {list->viewport()->width() - 4, row.height()}, textSize(widget, list->item(i)->text()),
-                 list->item(i)->text());
-    }
-  }
-}
-
-bool isPicture(const QWidget& widget) {
-  const auto* const label = qobject_cast<const QLabel*>(&widget);
-  return label != nullptr && label->text().isEmpty();
-}
-
-bool isHolder(const QWidget& widget) {
-  return qobject_cast<const QGroupBox*>(&widget) != nullptr || widget.metaObject() == &QFrame::staticMetaObject;
-}
-
-// The widgets of the controls that a person sees.
-std::vector<QWidget*> seen(const Stage& stage, const std::string& form) {
-  std::vector<QWidget*> widgets;
-  for (const ControlEntry& entry : stage.runtime.find(form)->controls().entries()) {
-    if (std::holds_alternative<MediaPlayer*>(entry.control)) continue;
-    QWidget& widget = stage.at(form, entry.fullName());
-    if (widget.isVisible()) widgets.push_back(&widget);
-  }
-  return widgets;
-}
-
-QRect placeOf(const QWidget& widget) { return {widget.mapTo(widget.window(), QPoint(0, 0)), widget.size()}; }
-
-void expectNoneCovered(const std::vector<QWidget*>& widgets) {
-  for (std::size_t i = 0; i < widgets.size(); ++i) {
-    if (isPicture(*widgets[i]) || isHolder(*widgets[i])) continue;
-    EXPECT_EQ(widgets[i]->visibleRegion().boundingRect(), widgets[i]->rect()) << nameOf(*widgets[i]) << " is cut";
-    for (std::size_t j = i + 1; j < widgets.size(); ++j) {
-      if (isPicture(*widgets[j]) || isHolder(*widgets[j])) continue;
-      EXPECT_FALSE(placeOf(*widgets[i]).intersects(placeOf(*widgets[j])))
-          << nameOf(*widgets[i]) << " lies on " << nameOf(*widgets[j]);
-    }
-  }
-}
-
-void expectScreenFits(const QWidget& window) {
-  const QSize room = kScreen - QSize(0, kWindowFrame);
-  for (const QSize size : {window.size(), window.minimumSizeHint(), window.layout()->totalMinimumSize()}) {
-    EXPECT_TRUE(fits(room, size)) << window.objectName().toStdString() << " takes " << spelled(size);
-  }
-}
-
-void expectFits(const Stage& stage, const std::string& form) {
-  QApplication::processEvents();
-  expectScreenFits(stage.window(form));
-  const auto widgets = seen(stage, form);
-  for (const QWidget* const widget : widgets) {
-    expectTextFits(*widget);
-    expectRowsFit(*widget);
-  }
-  expectNoneCovered(widgets);
-}
-
-// The data that the game ships.
-void useRealData(World& world) {
-  world.files.contents["bron.cfg"] = assetBytes("bron.cfg");
-  world.files.contents["monsters.cfg"] = assetBytes("monsters.cfg");
-}
-
-// A hero late in a long game, with everything and the longest words.
-Bohater lateHero() {
-  Bohater hero = richHero();
-  hero.Imie = "Zbigniew z Bogdańca Wielki";
-  hero.Klasa = "Zabobonny mnich zakonny";
-  hero.Ile_jeszcze = 1888;
-  for (int i = 0; i < kStatistics; ++i) hero.Poziomy(i) = kStatisticTable[static_cast<std::size_t>(i)].top();
-  const int values[] = {50, 10, 20, 34, 10};
-  for (int i = 0; i < 5; ++i) hero.Wartosci(i) = values[i];
-  hero.AktWytrzymalosc = 50;
-  hero.AktMoc = 20;
-  hero.MO = {1, 6, 2, 3};
-  hero.Wcielenia = 12;
-  for (int i = 0; i < 10; ++i) {
-    hero.MaBronww(i) = hero.MaBronss(i) = true;
-    hero.BronwwProc(i) = hero.BronssProc(i) = 175;
-    hero.BronwwPlus(i) = hero.BronssPlus(i) = 5;
-  }
-  hero.MaSpec(0) = hero.MaSpec(2) = true;
-  hero.Wyp(0) = 120;
-  hero.Wyp(1) = 1880;
-  hero.Tura = 288;
-  for (int i = 0; i < 45; ++i) hero.Stwory(i) = 88;
-  return hero;
-}
 
 TEST(Fit, IsMeasuredAtTheResolutionThatIsAskedFor) {
   Stage stage;

@@ -2,15 +2,15 @@
 // beside the game's own pictures.
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QDir>
 
+#include "desktop/application.h"
 #include "desktop/theme.h"
 
 int main(int argc, char* argv[]) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   ::testing::InitGoogleTest(&argc, argv);
-  QApplication application(argc, argv);
+  brolgan::desktop::Application application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setDoubleClickInterval(0);
   brolgan::desktop::theme::apply(application);

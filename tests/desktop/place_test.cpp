@@ -31,38 +31,85 @@ void expectAt(const Stage& stage, const std::string& form, std::pair<int, int> p
   EXPECT_EQ(corner(stage, form), place) << form;
 }
 
-TEST(Place, AScreenAppearsWhereTheLastOneStood) {
+TEST(Place, AScreenAppearsWhereTheLastOneStoodAndAsLarge) {
+  Stage stage;
+  setPreparation(stage.world, richHero());
+  stage.world.roll(1, 4, {1, 1});
+  stage.open({"CTsklep"});
+  const QRect pulled(20, 34, 1200, 650);
+  stage.window("CTsklep").setGeometry(pulled);
+  QApplication::processEvents();
+  stage.click("CTsklep", "w1");
+  EXPECT_EQ(stage.window("Prefight").geometry(), pulled);
+  move(stage, "Prefight", {12, 38});
+  stage.world.roll(1, 5, {2});
+  stage.click("Prefight", "Zakoncz");
+  EXPECT_EQ(stage.window("Fight").geometry(), QRect(QPoint(12, 38), pulled.size()));
+}
+
+TEST(Place, AMaximisedScreenIsFollowedByMaximisedOnes) {
   Stage stage;
   setPreparation(stage.world, richHero());
   stage.world.roll(1, 4, {1, 1});
   stage.start();
+  const QRect setUp = stage.window("Main").geometry();
+  stage.click("Main", "GraczM(0)");
+  stage.window("CTmhero").setWindowState(Qt::WindowMaximized);
+  stage.click("CTmhero", "Save");
+  EXPECT_FALSE(stage.window("Main").isMaximized());
+  EXPECT_EQ(stage.window("Main").geometry(), setUp);
+  stage.click("Main", "Start");
+  EXPECT_TRUE(stage.window("CTsklep").isMaximized());
+}
+
+TEST(Place, TheSetUpKeepsItsOwnPlace) {
+  Stage stage;
+  setTheTable(stage.world);
+  stage.start();
   move(stage, "Main", {20, 34});
   stage.click("Main", "GraczM(0)");
-  expectAt(stage, "CTmhero", {20, 34});
   move(stage, "CTmhero", {14, 40});
   stage.click("CTmhero", "Save");
-  expectAt(stage, "Main", {14, 40});
-  move(stage, "Main", {16, 30});
-  stage.click("Main", "Start");
-  expectAt(stage, "CTsklep", {16, 30});
-  move(stage, "CTsklep", {10, 36});
-  stage.click("CTsklep", "w1");
-  expectAt(stage, "Prefight", {10, 36});
-  move(stage, "Prefight", {12, 38});
-  stage.world.roll(1, 5, {2});
-  stage.click("Prefight", "Zakoncz");
-  expectAt(stage, "Fight", {12, 38});
+  expectAt(stage, "Main", {20, 34});
+  stage.click("Main", "GraczM(1)");
+  expectAt(stage, "CTmhero", {14, 40});
 }
 
 TEST(Place, AScreenNeverHangsOverTheEdge) {
   Stage stage;
   setTheTable(stage.world);
   stage.start();
-  move(stage, "Main", {700, 380});
+  move(stage, "Main", {560, 380});
   stage.click("Main", "GraczM(0)");
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
   EXPECT_TRUE(screen.contains(stage.window("CTmhero").geometry()));
   EXPECT_GE(corner(stage, "CTmhero").second, 26);
+}
+
+TEST(Place, TheSheetLeavesTheReportsAndListsOfTheFightInSight) {
+  Stage stage;
+  setFight(stage.world, richHero());
+  stage.open({"Fight"});
+  for (const char* frame : {"FZad", "FDamage"}) {
+    std::get<Frame*>(stage.runtime.find("Fight")->controls().find(frame).control)->Visible = true;
+  }
+  stage.click("Fight", "Heroshow");
+  const QRect sheet = stage.window("FHero").geometry();
+  for (const char* name : {"Uwaga", "FZad", "FDamage", "Bron", "Czar", "Przedmiot"}) {
+    const QWidget& widget = stage.at("Fight", name);
+    EXPECT_FALSE(sheet.intersects(QRect(widget.mapToGlobal(QPoint()), widget.size()))) << name;
+  }
+}
+
+TEST(Place, TheSheetKeepsThePlaceThatItWasGiven) {
+  Stage stage;
+  setShop(stage.world, richHero());
+  stage.open({"CTsklep"});
+  stage.click("CTsklep", "Heroshow");
+  move(stage, "FHero", {100, 120});
+  stage.click("FHero", "HeroClose");
+  stage.click("CTsklep", "Heroshow");
+  expectAt(stage, "FHero", {100, 120});
 }
 
 TEST(Place, TheTitleStaysWhereItIs) {
@@ -147,7 +194,7 @@ TEST(Fresh, TheShopForgetsItsSelectionTextsAndScroll) {
   EXPECT_EQ(stage.text("CTsklep", "BWnazwa"), "bron1");
   EXPECT_EQ(stage.text("CTsklep", "BWopis"), "opis można rzucać czary");
   EXPECT_EQ(list.verticalScrollBar()->value(), 0);
-  EXPECT_EQ(stage.focus("CTsklep"), "Heroshow");
+  EXPECT_EQ(stage.focus("CTsklep"), "PLUS(0)");
 }
 
 // The arrows start at the top of a list from which nothing has been chosen yet.
@@ -209,7 +256,7 @@ TEST(Fresh, PreparationForgetsItsNotesAndChoices) {
   EXPECT_EQ(stage.text("Prefight", "Moname"), "Zombi");
   EXPECT_FALSE(stage.isVisible("Prefight", "tabak"));
   EXPECT_FALSE(stage.get<QPlainTextEdit>("Prefight", "historia").document()->isUndoAvailable());
-  EXPECT_EQ(stage.focus("Prefight"), "Heroshow");
+  EXPECT_EQ(stage.focus("Prefight"), "Przedmioty");
 }
 
 TEST(Fresh, FightForgetsItsReportsAndDisabledButtons) {
@@ -228,7 +275,7 @@ TEST(Fresh, FightForgetsItsReportsAndDisabledButtons) {
   EXPECT_EQ(stage.text("Fight", "mana"), "0");
   EXPECT_FALSE(stage.isEnabled("Fight", "mana"));
   EXPECT_TRUE(stage.isEnabled("Fight", "Rzuc"));
-  EXPECT_EQ(stage.focus("Fight"), "Heroshow");
+  EXPECT_EQ(stage.focus("Fight"), "Bron");
 }
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "desktop/application.h"
 #include "desktop/text.h"
 #include "game/game.h"
 
@@ -63,8 +64,21 @@ Stage::Stage(RealPictures) : runtime({world.files, world.clock, pictures, world.
   prepare();
 }
 
+namespace {
+
+desktop::Application& application() { return dynamic_cast<desktop::Application&>(*QCoreApplication::instance()); }
+
+}  // namespace
+
+// What was thrown after the end is not told to the next stage.
+Stage::~Stage() {
+  application().onThrown = nullptr;
+  QCoreApplication::removePostedEvents(&application(), QEvent::MetaCall);
+}
+
 void Stage::prepare() {
   offerScreens(runtime, world.scripted);
+  application().onThrown = [this](const std::exception_ptr& error) { face.fail(error); };
   face.onError = [this](const QString& text) { errors.push_back(text.toStdString()); };
 }
 

@@ -24,6 +24,9 @@ class Stage {
   // The runtime asks for the real pictures in the working directory.
   struct RealPictures {};
   explicit Stage(RealPictures);
+  ~Stage();
+  Stage(const Stage&) = delete;
+  Stage& operator=(const Stage&) = delete;
 
   // Starts the game as the program does.
   void start();

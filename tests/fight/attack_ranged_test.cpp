@@ -472,6 +472,31 @@ TEST_F(UltiGun, WhatItCostIsWrittenWhenTheFightCloses) {
   EXPECT_EQ(saved().AktWytrzymalosc, 11);
 }
 
+TEST_F(UltiGun, WithAPriceOnTheLastShotShowsWhatIsLeftOfTheTarget) {
+  ready("UltiGun");
+  deals("UltiGun", 25);
+  open();
+  world.roll(1, 140, {1});
+  world.roll(1, 10, {1});
+  EXPECT_TRUE(press("Atak"));
+
+  EXPECT_EQ(caption("OpisZad"), "Czysto!");
+  EXPECT_EQ(caption("LIle"), "0");
+  EXPECT_EQ(caption("Mstat(0)"), "-5");
+}
+
+TEST_F(UltiGun, WithoutAPriceOnTheLastShotLeavesTheFiguresOfTheTarget) {
+  ready("UltiGun");
+  deals("UltiGun", 25);
+  open();
+  world.roll(1, 140, {1});
+  world.roll(1, 10, {2});
+  EXPECT_TRUE(press("Atak"));
+
+  EXPECT_EQ(caption("LIle"), "0");
+  EXPECT_EQ(caption("Mstat(0)"), "20");
+}
+
 TEST_F(UltiGun, MayTakeTheLastEnduranceAndTheNextRoundSaysSmierc) {
   ready("UltiGun");
   hero.Wartosci(0) = 1;

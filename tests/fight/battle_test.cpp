@@ -100,9 +100,5 @@ TEST(RewardOfAFight, LooksAtTheLetterOfTheClass) {
   EXPECT_EQ(reward("Ryzykant ", 1, {1, 9, 18, 0}, 0), 10);
 }
 
-TEST(RewardOfAFight, OverflowsWhenTheFacesDo) {
-  EXPECT_EQ(errorOf([] { reward("Wojownik", 1, {32767, 1, 1, 0}, 0); }), 6);
-}
-
 }  // namespace
 }  // namespace brolgan::test

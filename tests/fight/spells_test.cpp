@@ -262,6 +262,16 @@ TEST_P(CzarLeczniczy, HealsTwoDiceAndTwoForEachLevelAboveTheFirst) {
   EXPECT_EQ(caption("Pstat(0)"), std::to_string(GetParam().endurance));
 }
 
+// A fair die would show 1 twice where the uneven one shows 2.
+TEST_F(Healing, CzarLeczniczyIsThrownWithUnevenDice) {
+  readySpell("Czar Leczniczy");
+  open();
+  for (int i = 0; i < 2; ++i) world.scripted.add(0.15F);
+  cast();
+
+  EXPECT_EQ(caption("Pstat(0)"), "9");
+}
+
 INSTANTIATE_TEST_SUITE_P(Levels, CzarLeczniczy,
                          ::testing::Values(StrongHealing{1, 13}, StrongHealing{2, 15}, StrongHealing{3, 17},
                                            StrongHealing{20, 50}));

@@ -196,6 +196,15 @@ TEST(StrongHealing, AtLevel3HealsFrom6To16) {
   }
 }
 
+// A fair die would show 1 twice where the uneven one shows 2.
+TEST(StrongHealing, IsThrownWithUnevenDice) {
+  Preparation preparation;
+  preparation.openWith(kStrongHealingCounter, 1);
+  for (int i = 0; i < 2; ++i) preparation.world.scripted.add(0.15F);
+  preparation.cast(kStrongHealingSpell);
+  EXPECT_EQ(preparation.notes(), "Rzuciłem Czar Leczniczy( 4) ");
+}
+
 TEST(StrongHealing, DoesNotUseUpItsLevel) {
   Preparation preparation;
   preparation.openWith(kStrongHealingCounter, 1);
@@ -226,6 +235,18 @@ TEST(Autostart, RaisesTheInitiativeByOneDieAndNothingElse) {
   EXPECT_EQ(preparation.caption("cur(0)"), "10");
   preparation.finish();
   EXPECT_EQ(preparation.world.hero("hero1.boh").Wartosci(3), 12);
+}
+
+TEST(Autostart, RaisesTheInitiativeByOneOnTheLowestFaceAndByOneToSixInAll) {
+  for (int face = 1; face <= 6; ++face) {
+    Preparation preparation;
+    preparation.hero.MaCzar(9) = true;
+    preparation.open();
+    preparation.world.roll(1, 6, {face});
+    preparation.cast(kAutostartSpell);
+    EXPECT_EQ(preparation.caption("Inic"), std::to_string(12 + face));
+    EXPECT_EQ(preparation.notes(), "Rzuciłem Autostart( " + std::to_string(face) + ") ");
+  }
 }
 
 TEST(Autostart, BeyondAnIntegerEndsTheProgram) {

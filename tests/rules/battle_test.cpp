@@ -98,8 +98,9 @@ TEST(Reward, TellsClassesByTheLetter) {
   EXPECT_EQ(rewardFor(""), rewardFor("Wojownik"));
 }
 
-TEST(Reward, SumsOfTheMonstersFacesOverflowLikeAnyOther) {
-  EXPECT_EQ(errorOf([] { reward("Wojownik", 1, {20000, 20000, 1, 0}, 0); }), 6);
+TEST(Reward, AddsTheFacesOfTheMonstersDiceBeyondAnInteger) {
+  EXPECT_DOUBLE_EQ(reward("Wojownik", 1, {20000, 20000, 1, 0}, 0), 2001);
+  EXPECT_DOUBLE_EQ(reward("Wojownik", 1, {-20000, -20000, 1, 0}, 0), -1999);
 }
 
 }  // namespace

@@ -51,6 +51,15 @@ TEST(PlayerOrderFile, CutAfterAnyLineIsReadPastItsEndOnTheNext) {
   }
 }
 
+TEST(PlayerOrderFile, CutShortNamesTheFieldThatIsMissing) {
+  const std::string past = "Błąd wykonania 62: Odczyt poza końcem pliku\nPlik: gra.cfg\nWiersz: ";
+  EXPECT_EQ(errorTextOf([] { order({}); }), past + "1\nPole: liczba graczy");
+  for (std::size_t names = 0; names < 4; ++names) {
+    EXPECT_EQ(errorTextOf([&] { order(firstOf(kFourPlayers, names + 1)); }),
+              past + std::to_string(names + 2) + "\nPole: Gracz(" + std::to_string(names + 1) + ")");
+  }
+}
+
 TEST(PlayerOrderFile, AFifthNameIsASubscriptError) {
   Lines lines = withLine(kFourPlayers, 1, " 5 ");
   lines.emplace_back("hero5.boh");

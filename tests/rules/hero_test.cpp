@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "tests/rules/lines.h"
 #include "tests/support/world.h"
@@ -89,10 +90,20 @@ Failure failureOfLoading(const Lines& lines) {
 
 std::string saved(const Bohater& hero) {
   MemoryFiles files;
-  ItemWriter out(files, "hero1.boh");
-  Player_Save(out, hero);
-  out.close();
+  Player_Save({files, "hero1.boh"}, hero);
   return files.read("hero1.boh");
+}
+
+TEST(Hero, HasTheFieldsOfEitherKindAsTheSlotsOfThatKind) {
+  Bohater hero;
+  const Slots melee = hero.slots(WeaponKind::melee);
+  EXPECT_EQ(&melee.owned, &hero.MaBronww);
+  EXPECT_EQ(&melee.percent, &hero.BronwwProc);
+  EXPECT_EQ(&melee.plus, &hero.BronwwPlus);
+  const ConstSlots ranged = std::as_const(hero).slots(WeaponKind::ranged);
+  EXPECT_EQ(&ranged.owned, &hero.MaBronss);
+  EXPECT_EQ(&ranged.percent, &hero.BronssProc);
+  EXPECT_EQ(&ranged.plus, &hero.BronssPlus);
 }
 
 TEST(HeroFile, HasAFieldForEachOfIts161Lines) { EXPECT_EQ(numberedLines().size(), std::size_t{kLines}); }
@@ -251,6 +262,9 @@ TEST(HeroFile, AnErrorNamesTheFieldOfItsLine) {
   EXPECT_EQ(overflow(2), start + "2\nPole: Ile_jeszcze");
   EXPECT_EQ(overflow(6), start + "6\nPole: Poziomy(0)");
   EXPECT_EQ(overflow(15), start + "15\nPole: Wartosci(4)");
+  EXPECT_EQ(overflow(16), start + "16\nPole: Poziomy(5)");
+  EXPECT_EQ(overflow(18), start + "18\nPole: Poziomy(6)");
+  EXPECT_EQ(overflow(19), start + "19\nPole: Wcielenia");
   EXPECT_EQ(overflow(21), start + "21\nPole: BronwwProc(0)");
   EXPECT_EQ(overflow(79), start + "79\nPole: BronssPlus(9)");
   EXPECT_EQ(overflow(91), start + "91\nPole: Wyp(1)");

@@ -390,20 +390,20 @@ TEST_P(WeaponScreen, EndsTheProgramWithoutTheCatalogue) {
 
 TEST(WeaponDescription, OfAMeleeWeaponTellsOfSpells) {
   BronRecord melee;
-  EXPECT_EQ(describeMelee(melee), "");
+  EXPECT_EQ(describeWeapon(melee), "");
   melee.czary = true;
-  EXPECT_EQ(describeMelee(melee), "Można rzucać czary i atakować tą bronią. ");
+  EXPECT_EQ(describeWeapon(melee), "Można rzucać czary i atakować tą bronią. ");
 }
 
 TEST(WeaponDescription, OfARangedWeaponTellsOfFireThenOfSpread) {
   BronRecord ranged;
-  EXPECT_EQ(describeRanged(ranged), "");
+  EXPECT_EQ(describeWeapon(ranged), "");
   ranged.ogien = 1;
-  EXPECT_EQ(describeRanged(ranged), "Przenoszenie ognia. ");
+  EXPECT_EQ(describeWeapon(ranged), "Przenoszenie ognia. ");
   ranged.wszyscy = 2;
-  EXPECT_EQ(describeRanged(ranged), "Przenoszenie ognia. Zadaje wszystkim przeciwnikom. ");
+  EXPECT_EQ(describeWeapon(ranged), "Przenoszenie ognia. Zadaje wszystkim przeciwnikom. ");
   ranged.ogien = 0;
-  EXPECT_EQ(describeRanged(ranged), "Zadaje wszystkim przeciwnikom. ");
+  EXPECT_EQ(describeWeapon(ranged), "Zadaje wszystkim przeciwnikom. ");
 }
 
 TEST(WeaponDescription, OtherValuesOfFireAndSpreadAddNothing) {
@@ -411,12 +411,12 @@ TEST(WeaponDescription, OtherValuesOfFireAndSpreadAddNothing) {
     BronRecord ranged;
     ranged.ogien = value;
     ranged.wszyscy = value;
-    EXPECT_EQ(describeRanged(ranged), "") << value;
+    EXPECT_EQ(describeWeapon(ranged), "") << value;
   }
   BronRecord swapped;
   swapped.ogien = 2;
   swapped.wszyscy = 1;
-  EXPECT_EQ(describeRanged(swapped), "");
+  EXPECT_EQ(describeWeapon(swapped), "");
 }
 
 TEST(WeaponDescription, OnlyCreationWarnsOfUltiGun) {

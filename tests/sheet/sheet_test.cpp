@@ -207,6 +207,20 @@ TEST(HeroSheet, TenWeaponsOfAKindAreReadAndOneMoreEndsTheProgram) {
   }
 }
 
+// The eleventh weapon has a place in the catalogue and none among the hero's; the twelfth has not
+// even that.
+TEST(HeroSheet, ReadsElevenWeaponsOfAKindAndStopsInTheFileAtTheTwelfth) {
+  const std::string wording = "Błąd wykonania 9: Indeks poza zakresem";
+  const auto textOf = [](int melee, int ranged) {
+    Sheet sheet;
+    sheet.world.write("bron.cfg", weaponLines(melee, ranged));
+    return errorTextOf([&] { sheet.open(); });
+  };
+  EXPECT_EQ(textOf(11, 11), wording);
+  EXPECT_EQ(textOf(12, 0), wording + "\nPlik: bron.cfg\nWiersz: 100\nPole: KatalogWw(11)");
+  EXPECT_EQ(textOf(0, 12), wording + "\nPlik: bron.cfg\nWiersz: 101\nPole: KatalogSs(11)");
+}
+
 TEST(HeroSheet, TheMonsterFileIsAlwaysMonstersCfg) {
   Sheet sheet;
   sheet.world.write("inne.cfg", monsterLines(45));

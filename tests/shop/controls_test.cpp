@@ -73,7 +73,14 @@ TEST_F(ShopDesign, LocksTheNameAndTheFileAndKeepsTheNameFromTheKeyboard) {
   EXPECT_TRUE(screen.Plik.Locked);
 }
 
-TEST_F(ShopDesign, HasAPictureOnTheButtonOfTheSheet) { EXPECT_STRNE(screen.Heroshow.Picture, ""); }
+TEST_F(ShopDesign, HasEachPictureInItsOwnBoxAndOnTheButtonOfTheSheet) {
+  EXPECT_EQ(screen.pics[0].Picture, "szyld.png");
+  EXPECT_EQ(screen.pics[1].Picture, "stragan-czary.png");
+  EXPECT_EQ(screen.pics[2].Picture, "stragan-bron.png");
+  EXPECT_EQ(screen.pics[3].Picture, "stragan-cechy.png");
+  EXPECT_EQ(screen.pics[4].Picture, "lampa.png");
+  EXPECT_STREQ(screen.Heroshow.Picture, "arkusz.png");
+}
 
 TEST_F(ShopDesign, KeepsTheZonesInTheirOrder) {
   Lines zones;

@@ -89,12 +89,19 @@ TEST_F(ShopErrors, AreThreeHundredAndFortyForAStepOutOfItsLadder) {
   }
 }
 
-TEST_F(ShopErrors, NameTheHeroFileAndTheStep) {
-  const std::string text = textOn(withLine(plainLines(), 8, " 12 "));
+TEST_F(ShopErrors, NameTheHeroFileTheLineAndTheStep) {
+  for (std::size_t step = 0; step < kStepLines.size(); ++step) {
+    const auto& [line, top] = kStepLines[step];
+    EXPECT_EQ(textOn(withLine(plainLines(), line, std::to_string(top + 1))),
+              "Błąd wykonania 340: Nie istnieje taki element tablicy formantów\nPlik: hero1.boh\nWiersz: " +
+                  std::to_string(line) + "\nPole: Poziomy(" + std::to_string(step) + ")");
+  }
+}
 
-  EXPECT_EQ(text.rfind("Błąd wykonania 340: ", 0), 0U) << text;
-  EXPECT_NE(text.find("\nPlik: hero1.boh\n"), std::string::npos) << text;
-  EXPECT_NE(text.find("\nPole: Poziomy(1)"), std::string::npos) << text;
+// A comma in the name is one item more, so every step is read from the line before its own.
+TEST_F(ShopErrors, NameTheLineWhereTheStepWasRead) {
+  const std::string text = textOn(withLine(withLine(plainLines(), 1, "Jan,7"), 5, " 13 "));
+  EXPECT_NE(text.find("Wiersz: 5\nPole: Poziomy(0)"), std::string::npos) << text;
 }
 
 TEST_F(ShopErrors, ComeForAWrongStepOfEnduranceBeforeTheRestIsRead) {

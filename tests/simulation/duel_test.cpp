@@ -28,9 +28,7 @@ std::string heroWith(int endurance) {
   hero.MaBronss(9) = true;
   hero.Tura = 1;
   MemoryFiles files;
-  ItemWriter out(files, "h");
-  Player_Save(out, hero);
-  out.close();
+  Player_Save({files, "h"}, hero);
   return files.contents["h"];
 }
 

@@ -54,15 +54,7 @@ std::string waveFile(const std::string& sound, WaveForm form) {
 
 std::string waveFile(const Samples& sound, WaveForm form) { return waveFile(bytes(sound), form); }
 
-Samples stereoSamplesOf(const std::string& file) {
-  const bool mono = file[22] == 1;
-  const std::size_t data = file.find("data") + 8;
-  const Samples read = samples(file.substr(data));
-  if (!mono) return read;
-  Samples both;
-  for (const std::int16_t sample : read) both.insert(both.end(), 2, sample);
-  return both;
-}
+std::string soundOf(const std::string& file) { return file.substr(file.find("data") + 8); }
 
 Samples withoutSilentEnds(const Samples& sound) {
   const auto loud = [](std::int16_t sample) { return !isSilent(sample); };

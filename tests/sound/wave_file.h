@@ -28,8 +28,8 @@ Samples samples(const std::string& bytes);
 std::string waveFile(const std::string& sound, WaveForm form = {});
 std::string waveFile(const Samples& sound, WaveForm form = {});
 
-// The samples of a 16-bit file; one channel stands on both sides.
-Samples stereoSamplesOf(const std::string& file);
+// The sound in a file.
+std::string soundOf(const std::string& file);
 // Without the frames of silence at the beginning and the end.
 Samples withoutSilentEnds(const Samples& sound);
 

@@ -1,7 +1,6 @@
-# measure.awk - one 16-bit sound, its samples as words on stdin, any number to a line.
+# measure.awk - one 16-bit stereo sound, its samples as words on stdin, any number to a line.
 # -v name   what the line calls it
-# -v ch     1 or 2, the channels it is stored with
-# -v want   "CHANNELS MIN_SECONDS MAX_SECONDS MEASURE LUFS WIDTH", MEASURE is M or I
+# -v want   "MIN_SECONDS MAX_SECONDS MEASURE LUFS WIDTH", MEASURE is M or I
 # -v wrong  faults found in the header, blank if none
 # M is the loudest 400 ms window (BS.1770 weighting; silence stands before and after the sound,
 # so that a short one counts as it is heard), I the gated integrated loudness, true the 4x
@@ -10,7 +9,7 @@
 function db(x) { return x > 0 ? 20*log(x)/log(10) : -99 }
 function lu(x) { return x > 0 ? -.691+10*log(x)/log(10) : -99 }
 BEGIN {
-  rate = 44100; pi = 3.141592653589793; step = rate/100
+  ch = 2; rate = 44100; pi = 3.141592653589793; step = rate/100
   # K weighting: shelf and high-pass, direct form 2 transposed
   K = sin(pi*1681.974450955533/rate)/cos(pi*1681.974450955533/rate)
   Q = .7071752369554196; V = 10^(3.999843853973347/20); W = V^.4996667741545416
@@ -57,18 +56,17 @@ END {
   for (k in E) if (E[k] > tl) tl = E[k]
   if (pk > tp) tp = pk
   split(want, T, " "); len = n/rate; dc = n ? s/n/ch/32768 : 0; ms = lead*1000/rate; tl = db(tl/32768)
-  if (ch != T[1]) wrong = wrong " channels"
-  if (len < T[2]) wrong = wrong " short"
-  if (len > T[3]) wrong = wrong " long"
+  if (len < T[1]) wrong = wrong " short"
+  if (len > T[2]) wrong = wrong " long"
   if (db(tp/32768) >= -1) wrong = wrong " peak"
   if (cl) wrong = wrong " clipped"
   if (dc >= .001 || dc <= -.001) wrong = wrong " dc"
   if (!lead) wrong = wrong " silent"; else if (ms > 60) wrong = wrong " late"
   if (tl >= -55) wrong = wrong " tail"
-  x = T[4] == "I" ? I : M
-  if (x > T[5]+T[6]) wrong = wrong " loud"
-  if (x < T[5]-T[6]) wrong = wrong " quiet"
-  printf "%-16s %7.3f %2d %6.2f %6.2f %6.1f %6.1f %8.5f %4d %4.0f %5.0f  %s\n", name, len, ch,
+  x = T[3] == "I" ? I : M
+  if (x > T[4]+T[5]) wrong = wrong " loud"
+  if (x < T[4]-T[5]) wrong = wrong " quiet"
+  printf "%-16s %7.3f %6.2f %6.2f %6.1f %6.1f %8.5f %4d %4.0f %5.0f  %s\n", name, len,
     db(pk/32768), db(tp/32768), M, I, dc, cl, ms, tl, wrong == "" ? "ok" : "BAD:" wrong
   exit wrong != ""
 }

@@ -106,6 +106,26 @@ TEST_F(Hands, SelectARowOfAListAndRaiseItsClick) {
   EXPECT_EQ(diary, (Diary{"A combo", "A list"}));
 }
 
+TEST_F(Hands, CannotSelectOnWhatIsNoList) {
+  for (const char* const name : {"label", "button", "box", "option(0)", "frame"}) {
+    EXPECT_FALSE(world.selectRow("A", name, 0)) << name;
+  }
+  EXPECT_TRUE(diary.empty());
+}
+
+TEST_F(Hands, CannotSelectARowBeyondTheList) {
+  for (const char* const name : {"combo", "list"}) {
+    const int count = static_cast<int>(world.rows("A", name).size());
+    EXPECT_TRUE(world.selectRow("A", name, count - 1)) << name;
+    diary.clear();
+    EXPECT_FALSE(world.selectRow("A", name, count)) << name;
+    EXPECT_FALSE(world.selectRow("A", name, count + 1)) << name;
+    EXPECT_TRUE(diary.empty()) << name;
+  }
+  EXPECT_EQ(form().combo.ListIndex(), form().combo.ListCount() - 1);
+  EXPECT_EQ(form().list.ListIndex(), form().list.ListCount() - 1);
+}
+
 TEST_F(Hands, PuttingAHandOnAListWithoutChoosingARowRaisesNothing) {
   world.click("A", "combo");
   world.click("A", "list");

@@ -15,6 +15,11 @@ void FakePictures::load(const std::string& name) {
   loaded.push_back(name);
 }
 
+void FillingFiles::append(const std::string& name, std::string_view bytes) {
+  if (room-- <= 0) throw RuntimeError(ErrorCode::deviceIo, {name, 0, {}});
+  MemoryFiles::append(name, bytes);
+}
+
 void RecordingSounds::play(const std::string& player, const std::string& fileName) {
   events.push_back(player + " " + fileName);
 }
@@ -158,11 +163,7 @@ std::string World::line(const std::string& name, int number) const {
   return lines(name).at(static_cast<std::size_t>(number - 1));
 }
 
-void World::writeHero(const std::string& name, const Bohater& hero) {
-  ItemWriter out(files, name);
-  Player_Save(out, hero);
-  out.close();
-}
+void World::writeHero(const std::string& name, const Bohater& hero) { Player_Save({files, name}, hero); }
 
 Bohater World::hero(const std::string& name) { return Player_Load(runtime.OpenForInput(name)); }
 

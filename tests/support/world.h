@@ -45,6 +45,15 @@ class RecordingSounds : public Sounds {
 // The random number that makes a die of faces kmin to kmax show face.
 float rollOf(int kmin, int kmax, int face);
 
+// Files in memory that can be told to store no more.
+class FillingFiles : public MemoryFiles {
+ public:
+  void append(const std::string& name, std::string_view bytes) override;
+
+  // How many more writings find room.
+  int room = 1'000'000;
+};
+
 class World {
  public:
   // With dice that the test scripts; each draw that no script foresees fails the test.
@@ -92,7 +101,7 @@ class World {
   [[nodiscard]] Bohater hero(const std::string& name);
   void writeFightFile(const FightSetup& setup);
 
-  MemoryFiles files;
+  FillingFiles files;
   ScriptedRandom scripted;
   SeededRandom seeded;
   FixedClock clock;

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -12,6 +13,7 @@
 #include <fstream>
 #include <string>
 
+#include "flow/text/item_reader.h"
 #include "tests/support/world.h"
 
 namespace brolgan::test {
@@ -119,9 +121,65 @@ TEST_F(DiskFilesTest, AFolderInPlaceOfAFileCannotBeReadOrWritten) {
   EXPECT_TRUE(fs::is_directory("bron.cfg"));
 }
 
-TEST_F(DiskFilesTest, AnEmptyNameCannotBeReadOrWritten) {
-  EXPECT_EQ(errorOf([this] { files.read(""); }), 75);
-  EXPECT_EQ(errorOf([this] { files.create(""); }), 75);
+TEST_F(DiskFilesTest, AnEmptyNameCannotBeReadOrWrittenAndSaysThatItIsEmpty) {
+  const std::string text = "Błąd wykonania 75: Błąd dostępu do ścieżki lub pliku\nPlik: (pusta nazwa)";
+  EXPECT_EQ(errorTextOf([this] { files.read(""); }), text);
+  EXPECT_EQ(errorTextOf([this] { files.create(""); }), text);
+}
+
+// A pipe with nobody at its other end would be waited for without end.
+TEST_F(DiskFilesTest, APipeInPlaceOfAFileIsAnErrorAtOnce) {
+  ASSERT_EQ(mkfifo("gra.cfg", 0600), 0);
+  EXPECT_EQ(errorTextOf([this] { files.open("gra.cfg"); }),
+            "Błąd wykonania 75: Błąd dostępu do ścieżki lub pliku\nPlik: gra.cfg");
+  EXPECT_EQ(errorOf([this] { files.create("gra.cfg"); }), 75);
+  EXPECT_EQ(errorOf([this] { files.append("gra.cfg", "a"); }), 57);
+  fs::create_symlink("gra.cfg", "sklep.cfg");
+  EXPECT_EQ(errorOf([this] { files.open("sklep.cfg"); }), 75);
+  EXPECT_EQ(errorOf([this] { files.create("sklep.cfg"); }), 75);
+}
+
+TEST_F(DiskFilesTest, ADeviceInPlaceOfAFileIsAnErrorAtOnce) {
+  for (const char* const device : {"/dev/zero", "/dev/null", "/dev/full"}) {
+    EXPECT_EQ(errorOf([&] { files.open(device); }), 75) << device;
+    EXPECT_EQ(errorOf([&] { files.create(device); }), 75) << device;
+  }
+}
+
+// A file of the system that opens and whose first bytes can never be read stands for a dying disk.
+TEST_F(DiskFilesTest, AReadThatFailsIsAnErrorOfTheDeviceAndNamesTheFile) {
+  fs::create_symlink("/proc/self/mem", "hero1.boh");
+  EXPECT_EQ(errorTextOf([this] { files.read("hero1.boh"); }),
+            "Błąd wykonania 57: Błąd wejścia/wyjścia urządzenia\nPlik: hero1.boh");
+}
+
+constexpr off_t kHuge = 900'000'000;
+
+TEST_F(DiskFilesTest, AHugeFileIsReadAsFarAsItIsAskedFor) {
+  put("bron.cfg", "Kosiarz\r\n 12 \r\n");
+  ASSERT_EQ(truncate("bron.cfg", kHuge), 0);
+  OpenFile file = files.open("bron.cfg");
+  ASSERT_TRUE(file.rest->appendTo(file.bytes));
+  EXPECT_LE(file.bytes.size(), 64U * 1024);
+  EXPECT_TRUE(file.bytes.starts_with("Kosiarz\r\n 12 \r\n"));
+}
+
+TEST_F(DiskFilesTest, TheFirstItemsOfAHugeFileCanBeRead) {
+  put("bron.cfg", "Kosiarz\r\n 12 \r\n");
+  ASSERT_EQ(truncate("bron.cfg", kHuge), 0);
+  ItemReader in("bron.cfg", files.open("bron.cfg"));
+  EXPECT_EQ(in.string("Imie"), "Kosiarz");
+  EXPECT_EQ(in.integer("Ile_jeszcze"), 12);
+}
+
+TEST_F(DiskFilesTest, AFileOfManyLinesIsReadToItsEnd) {
+  std::string lines;
+  for (int i = 0; i < 5000; ++i) lines += " " + std::to_string(i) + " \r\n";
+  put("plik.txt", lines);
+  ItemReader in("plik.txt", files.open("plik.txt"));
+  for (int i = 0; i < 5000; ++i) ASSERT_EQ(in.integer("liczba"), i);
+  EXPECT_EQ(errorOf([&] { in.integer("liczba"); }), 62);
+  EXPECT_EQ(in.line(), 5001);
 }
 
 TEST_F(DiskFilesTest, AFileThatCannotBeOpenedIsAnAccessError) {

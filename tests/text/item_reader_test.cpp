@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -305,6 +307,11 @@ TEST(VariantItem, AWordIsATypeMismatch) {
   }
 }
 
+TEST(VariantItem, TheLowestAndTheHighestIntegerAreTaken) {
+  EXPECT_EQ(over("-32768\r\n").variant("x"), -32768);
+  EXPECT_EQ(over(" 32767 \r\n").variant("x"), 32767);
+}
+
 TEST(VariantItem, ANumberTooLargeOverflows) {
   EXPECT_EQ(errorOf([] { over("32768\r\n").variant("x"); }), 6);
   EXPECT_EQ(errorOf([] { over("-32769\r\n").variant("x"); }), 6);
@@ -318,6 +325,70 @@ TEST(ItemReader, AnErrorOfTheCallerNamesTheItemReadLast) {
               in.fail(ErrorCode::subscript, {"Gracz", 5});
             }),
             "Błąd wykonania 9: Indeks poza zakresem\nPlik: plik.txt\nWiersz: 2\nPole: Gracz(5)");
+}
+
+// Files whose bytes come piece by piece.
+
+// Hands so many bytes at a time out, and fails behind the last when the disk is dying.
+class PieceByPiece : public Source {
+ public:
+  PieceByPiece(std::string bytes, std::size_t piece, bool dies = false)
+      : bytes_(std::move(bytes)), piece_(piece), dies_(dies) {}
+
+  bool appendTo(std::string& bytes) override {
+    if (dies_ && at_ >= bytes_.size()) throw RuntimeError(ErrorCode::deviceIo, {"plik.txt", 0, {}});
+    bytes += bytes_.substr(std::min(at_, bytes_.size()), piece_);
+    at_ += piece_;
+    return at_ < bytes_.size() + piece_;
+  }
+
+ private:
+  std::string bytes_;
+  std::size_t piece_;
+  bool dies_;
+  std::size_t at_ = 0;
+};
+
+// What reading items of all kinds in turn comes to, each with its line.
+std::string told(ItemReader in, int firstKind) {
+  std::string all;
+  for (int i = firstKind; i < 200; ++i) {
+    std::string item;
+    const std::string error = errorTextOf([&] {
+      if (i % 5 == 0) item = in.string({"x", i});
+      if (i % 5 == 1) item = std::to_string(in.integer({"x", i}).value());
+      if (i % 5 == 2) item = in.flag({"x", i}) ? "tak" : "nie";
+      if (i % 5 == 3) item = in.boolean({"x", i}) ? "tak" : "nie";
+      if (i % 5 == 4) item = std::to_string(in.variant({"x", i}).value());
+    });
+    all += std::to_string(in.line()) + ": " + item + error + "\n";
+    if (error.find(" 62:") != std::string::npos) return all;
+  }
+  return all + "nieskończony";
+}
+
+TEST(PiecewiseFile, HoldsTheSameItemsAsOneThatIsAllAtHand) {
+  for (const std::string text :
+       {"", "\r", "\n", "\r\n", "\r\r\n", "a", "a\r\n", "1 2,3\r4\n5\r\n\r\n\"a, b\"\r\n,,\r\n  \n", "a,\r\nb\r\n",
+        " 12 \r\n-3 \r\nTrue\r\nFalse\r\n 1  6  2  3 \r\nKosiarz,x\r\n", "\"bez końca\r\n7", "1,2,3",
+        "\r\n\r\n1\r\r"}) {
+    for (int kind = 0; kind < 5; ++kind) {
+      const std::string whole = told({"plik.txt", text}, kind);
+      EXPECT_EQ(whole.find("nieskończony"), std::string::npos) << text;
+      for (std::size_t piece = 1; piece < 8; ++piece) {
+        EXPECT_EQ(told({"plik.txt", OpenFile{{}, std::make_unique<PieceByPiece>(text, piece)}}, kind), whole)
+            << text << " in pieces of " << piece;
+      }
+    }
+  }
+}
+
+TEST(PiecewiseFile, IsReadUpToTheLineWhereTheDiskDies) {
+  ItemReader in("plik.txt", OpenFile{{}, std::make_unique<PieceByPiece>("a\r\n 7 \r\nb", 3, true)});
+  EXPECT_EQ(in.string("tekst"), "a");
+  EXPECT_EQ(in.integer("liczba"), 7);
+  EXPECT_EQ(errorTextOf([&] { in.string("tekst"); }),
+            "Błąd wykonania 57: Błąd wejścia/wyjścia urządzenia\nPlik: plik.txt");
 }
 
 TEST(ItemReader, EveryReadMovesOnWhateverStandsThere) {

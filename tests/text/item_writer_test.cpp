@@ -85,6 +85,8 @@ TEST_F(ItemWriting, ASumIsRoundedWithTiesToEven) {
   EXPECT_EQ(written([](ItemWriter& out) { out.rounded(2.5, "x"); }), " 2 \r\n");
   EXPECT_EQ(written([](ItemWriter& out) { out.rounded(-3.5, "x"); }), "-4 \r\n");
   EXPECT_EQ(written([](ItemWriter& out) { out.rounded(32767.4, "x"); }), " 32767 \r\n");
+  EXPECT_EQ(written([](ItemWriter& out) { out.rounded(-32768, "x"); }), "-32768 \r\n");
+  EXPECT_EQ(written([](ItemWriter& out) { out.rounded(-32768.5, "x"); }), "-32768 \r\n");
 }
 
 TEST_F(ItemWriting, ASumBeyondAnIntegerOverflowsAndNamesTheLineThatItWasFor) {
@@ -96,6 +98,12 @@ TEST_F(ItemWriting, ASumBeyondAnIntegerOverflowsAndNamesTheLineThatItWasFor) {
   EXPECT_EQ(errorTextOf([&] { written(write); }),
             "Błąd wykonania 6: Przepełnienie\nPlik: plik.txt\nWiersz: 3\nPole: Wyp(1)");
   EXPECT_EQ(files.contents.at("plik.txt"), "Kosiarz\r\n 1  2 \r\n");
+}
+
+TEST_F(ItemWriting, TheLowestIntegerIsWrittenAndWhatIsBelowOverflows) {
+  EXPECT_EQ(errorOf([&] { written([](ItemWriter& out) { out.rounded(-32768, "x"); }); }), 0);
+  EXPECT_EQ(errorOf([&] { written([](ItemWriter& out) { out.rounded(-32768.51, "x"); }); }), 6);
+  EXPECT_EQ(errorOf([&] { written([](ItemWriter& out) { out.rounded(-32769, "x"); }); }), 6);
 }
 
 TEST_F(ItemWriting, LinesFollowEachOtherInOrder) {
@@ -132,7 +140,7 @@ TEST_F(ItemWriting, AnErrorInTheMiddleLeavesTheLinesWrittenUntilThen) {
 
 TEST_F(ItemWriting, AFileWithoutANameCannotBeOpened) {
   EXPECT_EQ(errorTextOf([this] { const ItemWriter out(files, ""); }),
-            "Błąd wykonania 75: Błąd dostępu do ścieżki lub pliku");
+            "Błąd wykonania 75: Błąd dostępu do ścieżki lub pliku\nPlik: (pusta nazwa)");
 }
 
 // Files that take a name and then store nothing.

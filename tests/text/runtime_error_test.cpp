@@ -21,17 +21,17 @@ TEST_P(RuntimeErrorText, NamesNumberAndWording) {
 
 INSTANTIATE_TEST_SUITE_P(
     Codes, RuntimeErrorText,
-    testing::Values(Wording{ErrorCode::overflow, "Błąd wykonania 6: Przepełnienie"},
-                    Wording{ErrorCode::subscript, "Błąd wykonania 9: Indeks poza zakresem"},
-                    Wording{ErrorCode::typeMismatch, "Błąd wykonania 13: Niezgodność typów"},
-                    Wording{ErrorCode::fileNotFound, "Błąd wykonania 53: Nie znaleziono pliku"},
-                    Wording{ErrorCode::deviceIo, "Błąd wykonania 57: Błąd wejścia/wyjścia urządzenia"},
-                    Wording{ErrorCode::pastEnd, "Błąd wykonania 62: Odczyt poza końcem pliku"},
-                    Wording{ErrorCode::pathAccess, "Błąd wykonania 75: Błąd dostępu do ścieżki lub pliku"},
-                    Wording{ErrorCode::pathNotFound, "Błąd wykonania 76: Nie znaleziono ścieżki"},
-                    Wording{ErrorCode::noSuchControl,
-                            "Błąd wykonania 340: Nie istnieje taki element tablicy formantów"},
-                    Wording{ErrorCode::invalidPicture, "Błąd wykonania 481: Nieprawidłowy obrazek"}));
+    testing::Values(
+        Wording{ErrorCode::overflow, "Błąd wykonania 6: Przepełnienie"},
+        Wording{ErrorCode::subscript, "Błąd wykonania 9: Indeks poza zakresem"},
+        Wording{ErrorCode::typeMismatch, "Błąd wykonania 13: Niezgodność typów"},
+        Wording{ErrorCode::fileNotFound, "Błąd wykonania 53: Nie znaleziono pliku"},
+        Wording{ErrorCode::deviceIo, "Błąd wykonania 57: Błąd wejścia/wyjścia urządzenia"},
+        Wording{ErrorCode::pastEnd, "Błąd wykonania 62: Odczyt poza końcem pliku"},
+        Wording{ErrorCode::pathAccess, "Błąd wykonania 75: Błąd dostępu do ścieżki lub pliku\nPlik: (pusta nazwa)"},
+        Wording{ErrorCode::pathNotFound, "Błąd wykonania 76: Nie znaleziono ścieżki"},
+        Wording{ErrorCode::noSuchControl, "Błąd wykonania 340: Nie istnieje taki element tablicy formantów"},
+        Wording{ErrorCode::invalidPicture, "Błąd wykonania 481: Nieprawidłowy obrazek"}));
 
 TEST(RuntimeError, NamesFileLineAndFieldEachOnALineOfItsOwn) {
   const RuntimeError error(ErrorCode::pastEnd, {"hero1.boh", 7, "Poziomy(0)"});

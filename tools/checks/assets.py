@@ -38,7 +38,9 @@ def named_by_program():
 
 def made_by_sources():
     pictures = {path.name for path in (ASSETS / "pictures/rendered").glob("*") if path.suffix in (".jpg", ".png")}
-    return pictures | {path.stem + ".wav" for path in (ASSETS / "sounds").glob("*.csd")}
+    # "hard2-2.csd" makes a variant of the sound that "hard2.csd" makes.
+    stems = {re.sub(r"-[2-9]$", "", path.stem) for path in (ASSETS / "sounds").glob("*.csd")}
+    return pictures | {stem + ".wav" for stem in stems}
 
 
 def main():

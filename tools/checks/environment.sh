@@ -4,6 +4,15 @@ mkdir -p build/locale
 [ -d build/locale/pl_PL.UTF-8 ] || localedef -i pl_PL -f UTF-8 build/locale/pl_PL.UTF-8
 export LOCPATH="$PWD/build/locale" LC_ALL=pl_PL.UTF-8 TZ=Asia/Kathmandu
 
+# build_played TARGET...: builds targets of the game as it is played, with the measurements beside.
+build_played() {
+  cmake --preset release -B build/played -DBROLGAN_WERROR=ON -DBROLGAN_BENCH=ON >build/played.log 2>&1 &&
+    cmake --build build/played --target "$@" >>build/played.log 2>&1 || {
+    tail -n 60 build/played.log
+    return 1
+  }
+}
+
 # build_and_test PRESET: configures, builds and runs the tests of a preset, quietly while all is well.
 build_and_test() {
   cmake --preset "$1" >"build/$1.log" 2>&1 && cmake --build --preset "$1" >>"build/$1.log" 2>&1 || {

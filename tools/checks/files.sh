@@ -6,3 +6,4 @@ find . -path ./build -prune -o -name '*.cpp' -print -o -name '*.h' -print | xarg
 python3 assets/pictures/render.py --check
 python3 tools/checks/assets.py
 python3 tools/checks/quirks.py
+python3 tools/checks/test_names.py

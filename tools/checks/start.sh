@@ -1,12 +1,11 @@
 #!/bin/sh
-# The game as it is played starts, shows its first window, and ends when the title is closed.
+# The game as it is played starts, shows its first window, and ends when the title is closed; a turn of it
+# can be followed from what it tells screen readers alone.
 set -eu
 mkdir -p build
-cmake --preset release >build/release.log 2>&1 && cmake --build --preset release >>build/release.log 2>&1 || {
-  tail -n 60 build/release.log
-  exit 1
-}
-tools/setup/run_virtual.sh build/release/gra >build/start.log 2>&1 &
+. tools/checks/environment.sh
+build_played all
+tools/setup/run_virtual.sh build/played/gra >build/start.log 2>&1 &
 running=$!
 waited=0
 until grep -q 'first screenshot' build/start.log; do
@@ -18,5 +17,10 @@ DISPLAY=$(sed -n 's/.*virtual one (\(.*\))\..*/\1/p' build/start.log)
 export DISPLAY
 wmctrl -F -c 'Brolgan XP version'
 wait $running
-test -s build/release/gra/pierwszy-ekran.png
+test -s build/played/gra/pierwszy-ekran.png
 echo "the game starts and ends"
+tests/access/run.sh build/played/gra >build/access.log 2>&1 || {
+  tail -n 30 build/access.log
+  exit 1
+}
+tail -n 1 build/access.log

@@ -1,8 +1,6 @@
 // Plays a short game by clicking real widgets in real windows and takes a picture of the whole
 // display at every screen. Run by take.sh in a folder laid out for play.
-// Usage: brolgan_screens FOLDER-FOR-PICTURES HERO-FILE
-#include "game/game.h"
-
+// Usage: brolgan_screens FOLDER-FOR-PICTURES HERO-FILE [maximised]
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
@@ -16,6 +14,7 @@
 #include "desktop/picture_store.h"
 #include "desktop/silence.h"
 #include "desktop/theme.h"
+#include "game/game.h"
 #include "rules/dice.h"
 
 namespace {
@@ -39,7 +38,9 @@ double timeOfRoll(int kmin, int kmax, int face) {
 
 class Session {
  public:
-  Session(QString folder, QString grownHero) : folder_(std::move(folder)), grownHero_(std::move(grownHero)) {
+  // isMaximised: the first screen in turn is maximised, and all others after it.
+  Session(QString folder, QString grownHero, bool isMaximised)
+      : folder_(std::move(folder)), grownHero_(std::move(grownHero)), isMaximised_(isMaximised) {
     offerScreens(runtime_, random_);
   }
 
@@ -50,6 +51,7 @@ class Session {
     takeTitle();
     take("setup");
     click("Main", "GraczM(0)");
+    if (isMaximised_) face_.window("CTmhero")->showMaximized();
     developHero();
     take("creation");
     click("CTmhero", "Save");
@@ -110,7 +112,7 @@ class Session {
   void pick(const QString& list, const QString& text) {
     auto& box = static_cast<QComboBox&>(widget("Fight", list));
     box.setCurrentText(text);
-    emit box.activated(box.currentIndex());
+    Q_EMIT box.activated(box.currentIndex());
     settle();
   }
 
@@ -130,6 +132,7 @@ class Session {
 
   QString folder_;
   QString grownHero_;
+  bool isMaximised_;
   DiskFiles files_;
   SeededRandom random_;
   SetClock clock_;
@@ -154,7 +157,8 @@ int main(int argc, char* argv[]) {
   QApplication::setWindowIcon(icon());
   const QString folder = application.arguments().at(1);
   const QString hero = application.arguments().at(2);
-  Session(folder, hero).play(2);
-  Session(folder, hero).play(1);
+  const bool isMaximised = application.arguments().value(3) == "maximised";
+  Session(folder, hero, isMaximised).play(2);
+  Session(folder, hero, isMaximised).play(1);
   return 0;
 }

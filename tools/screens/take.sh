@@ -1,32 +1,38 @@
 #!/bin/sh
-# take.sh [SCALE]: takes the pictures of every screen into docs/screens, at 1366 x 768 and 100 %, or
-# with SCALE 2 those of creation and fight into docs/screens/200, at twice that and 200 %.
+# take.sh [FOLDER]: takes the pictures of docs/screens (or of FOLDER): every screen at 1366 x 768; those
+# of creation, fight and shop at other sizes, each in a folder of its own, and at 200 %.
 set -eu
+target=${1:-}
+case $target in "" | /*) ;; *) target=$PWD/$target ;; esac
 cd "$(dirname "$0")/../.."
-scale=${1:-1}
+. tools/setup/display.sh
+target=${target:-$PWD/docs/screens}
 cmake --preset release >/dev/null && cmake --build build/release --target brolgan_screens brolgan_assets >/dev/null
-target=$PWD/docs/screens
-[ "$scale" = 1 ] || target=$PWD/docs/screens/200
-play=$(mktemp -d)
-trap 'rm -rf "$play"; kill $server 2>/dev/null || true' EXIT
-cp build/release/gra/*.jpg build/release/gra/*.png build/release/gra/*.cfg "$play"
-number=$(mktemp)
-Xvfb -displayfd 3 -screen 0 $((1366 * scale))x$((768 * scale))x24 -nolisten tcp 3>"$number" >/dev/null 2>&1 &
-server=$!
-while [ ! -s "$number" ]; do sleep 0.1; done
-export DISPLAY=:$(cat "$number") QT_SCALE_FACTOR="$scale"
-openbox >/dev/null 2>&1 &
-sleep 0.5
 binary=$PWD/build/release/tools/screens/brolgan_screens
 hero=$PWD/tools/screens/hero.boh
-mkdir "$play/taken"
-cd "$play"
-"$binary" "$play/taken" "$hero"
-rm -f "$target"/*.png
-mkdir -p "$target"
-for picture in taken/*.png; do
-  name=${picture#taken/}
-  case $scale/$name in
-    1/* | */creation.png | */fight.png) convert "$picture" -depth 8 -colors 256 "PNG8:$target/$name" ;;
-  esac
-done
+work=$(mktemp -d)
+trap 'rm -rf "$work"; stop_display' EXIT INT TERM
+
+# take WIDTH HEIGHT SCALE FOLDER [maximised]
+take() {
+  play=$work/$1x$2x$3
+  mkdir -p "$play/taken" "$4"
+  cp build/release/gra/*.jpg build/release/gra/*.png build/release/gra/*.cfg "$play"
+  start_display "$1" "$2" env
+  (cd "$play" && QT_SCALE_FACTOR=$3 "$binary" taken "$hero" ${5:-})
+  stop_display
+  rm -f "$4"/*.png
+  for picture in "$play"/taken/*.png; do
+    name=${picture##*/}
+    case $4/$name in
+      "$target/$name" | */creation.png | */fight.png | */shop.png)
+        convert "$picture" -depth 8 -colors 256 "PNG8:$4/$name" ;;
+    esac
+  done
+}
+
+take 1366 768 1 "$target"
+take 2732 1536 2 "$target/200"
+take 1024 600 1 "$target/1024x600"
+take 2560 1440 1 "$target/2560x1440"
+take 1920 1080 1 "$target/1920x1080" maximised

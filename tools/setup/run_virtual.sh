@@ -2,30 +2,12 @@
 # run_virtual.sh FOLDER: starts the game of that folder on a virtual display, says where its first
 # screenshot lies, and waits for the end of the game.
 set -eu
+. "$(dirname "$0")/display.sh"
 cd "$1"
 picture=$PWD/pierwszy-ekran.png
 rm -f "$picture"
-
-number=$(mktemp)
-Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$number" >/dev/null 2>&1 &
-server=$!
-trap 'kill $server 2>/dev/null; rm -f "$number"' EXIT INT TERM
-waited=0
-until [ -s "$number" ]; do
-  waited=$((waited + 1))
-  [ $waited -le 100 ] || { echo "The virtual display does not start." >&2; exit 1; }
-  sleep 0.1
-done
-DISPLAY=:$(cat "$number")
-export DISPLAY
-openbox >/dev/null 2>&1 &
-# A window that comes before its manager may never be shown.
-waited=0
-until xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; do
-  waited=$((waited + 1))
-  [ $waited -le 100 ] || { echo "The window manager does not start." >&2; exit 1; }
-  sleep 0.1
-done
+trap stop_display EXIT INT TERM
+start_display 1366 768 env
 
 ./brolgan &
 game=$!
