@@ -154,8 +154,9 @@ const char* const kIntroduction =
     "# Balans w liczbach\n\n"
     "Dla graczy, którzy lubią wiedzieć, na co się porywają. Liczby pochodzą z całych partii rozegranych przez\n"
     "wymyślonych graczy, którzy widzą tylko to, co widać na ekranach, i klikają tylko to, co da się kliknąć.\n"
-    "**Rozsądny** waży spodziewane obrażenia i ryzyko ołówkiem na kartce. **Naiwny** kupuje, co popadnie, i siedzi w\n"
-    "najsłabszej strefie, póki nie poczuje się pewnie. **Chciwy** przed każdym wyborem rozgrywa walkę w głowie.\n\n";
+    "**Rozsądny** waży spodziewane obrażenia i ryzyko ołówkiem na kartce. **Nowicjusz** kupuje, co groźnie brzmi, po\n"
+    "łatwej walce idzie strefę dalej, po bolesnej się cofa. **Chciwy** przed każdym wyborem rozgrywa walkę w "
+    "głowie.\n\n";
 
 const char* const kRules =
     "\n## Z czym liczby nie wygrają\n\n"
@@ -166,8 +167,6 @@ const char* const kRules =
     "- Ryzykant dostaje potrójne punkty i nawet z tym, co przepada, rośnie najszybciej. Nagrody potworów leżą tuż nad\n"
     "  połówką (1,6; 2,6; 3,6...), bo wtedy zaokrąglanie najbardziej pomaga pozostałym, a i tak wygrywa częściej.\n"
     "  Hamują go działy sklepu: co druga wizyta pozwala rozwijać cechy, co trzecia kupić broń.\n"
-    "- „Król Zagłady” stoi na skraju listy, więc w „Tronie Królów” trafia się raz na sześć wizyt. Stąd szeroki\n"
-    "  rozrzut długości partii.\n"
     "- Nagrodę liczy się tylko z kości ataku i pancerza; stały dodatek i wytrzymałość potwora nic nie dają. Grupa\n"
     "  płaci za liczebność, więc w każdej strefie trafia się łup większy od innych.\n"
     "- Nóż i Łuk ma od początku każdy, więc nie trzeba ich kupować; można je za to sprzedać przy tworzeniu bohatera.\n"

@@ -76,13 +76,13 @@ DataFiles withFeebleWeapons() {
   return data;
 }
 
-TEST(Aims, first_fights_are_as_safe_as_they_should_be) {
+TEST(Aims, FirstFightsAreAsSafeAsTheyShouldBe) {
   for (const Aim& aim : firstFightAims(study())) EXPECT_TRUE(aim.reached) << aim.text << ": " << aim.found;
 }
 
-TEST(Aims, games_last_as_long_as_they_should_and_end_with_a_winner) { EXPECT_EQ(lengthFaults(study().games), ""); }
+TEST(Aims, GamesLastAsLongAsTheyShouldAndEndWithAWinner) { EXPECT_EQ(lengthFaults(study().games), ""); }
 
-TEST(Aims, feeble_weapons_would_be_noticed_in_first_fights) {
+TEST(Aims, FeebleWeaponsWouldBeNoticedInFirstFights) {
   StudySetup setup = sample();
   setup.trials = 20;
   const DataFiles data = withFeebleWeapons();
@@ -92,7 +92,7 @@ TEST(Aims, feeble_weapons_would_be_noticed_in_first_fights) {
   EXPECT_TRUE(anyMissed(firstFightAims(feeble)));
 }
 
-TEST(Aims, games_of_a_wrong_length_would_be_noticed) {
+TEST(Aims, GamesOfAWrongLengthWouldBeNoticed) {
   EXPECT_EQ(lengthFaults(wonIn(24)), "");
   EXPECT_NE(lengthFaults(wonIn(8)), "");
   EXPECT_NE(lengthFaults(wonIn(35)), "");

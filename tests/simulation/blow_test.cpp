@@ -8,13 +8,13 @@
 namespace brolgan::simulation {
 namespace {
 
-TEST(Blow, below_is_the_normal_distribution) {
+TEST(Blow, BelowIsTheNormalDistribution) {
   EXPECT_NEAR(below(0), 0.5, 1e-6);
   EXPECT_NEAR(below(1), 0.8413, 0.001);
   EXPECT_NEAR(below(-1.96), 0.025, 0.001);
 }
 
-TEST(Blow, knows_the_spread_of_the_uneven_die) {
+TEST(Blow, KnowsTheSpreadOfTheUnevenDie) {
   EXPECT_NEAR(knowThrow({1, 3, 1, 0}).variance, 0.5, 1e-9);
   EXPECT_NEAR(knowThrow({1, 6, 2, 3}).mean, 10, 1e-9);
 }

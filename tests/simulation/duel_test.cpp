@@ -37,7 +37,7 @@ DuelResult duel(int endurance, int monster, int threads, std::uint64_t seed = 1)
   return fightDuel(data, {heroWith(endurance), monster, "Nóż", 1200, threads, seed});
 }
 
-TEST(Duel, gives_the_same_figures_on_any_number_of_cores) {
+TEST(Duel, GivesTheSameFiguresOnAnyNumberOfCores) {
   const DuelResult one = duel(12, 2, 1);
   const DuelResult three = duel(12, 2, 3);
   EXPECT_EQ(one.win.mean, three.win.mean);
@@ -45,7 +45,7 @@ TEST(Duel, gives_the_same_figures_on_any_number_of_cores) {
   EXPECT_EQ(one.takenARound.error, three.takenARound.error);
 }
 
-TEST(Duel, of_a_giant_with_the_first_monster_is_always_won) {
+TEST(Duel, OfAGiantWithTheFirstMonsterIsAlwaysWon) {
   const DuelResult result = duel(5000, 0, 1);
   EXPECT_EQ(result.win.mean, 1);
   EXPECT_EQ(result.win.error, 0);
@@ -53,13 +53,13 @@ TEST(Duel, of_a_giant_with_the_first_monster_is_always_won) {
   EXPECT_GT(result.dealtARound.mean, 0);
 }
 
-TEST(Duel, of_a_weakling_with_the_last_monster_is_always_lost) {
+TEST(Duel, OfAWeaklingWithTheLastMonsterIsAlwaysLost) {
   const DuelResult result = duel(1, kMonsters - 1, 1);
   EXPECT_EQ(result.win.mean, 0);
   EXPECT_EQ(result.points.mean, 0);
 }
 
-TEST(Duel, takes_as_much_endurance_as_is_missing_after_a_win) {
+TEST(Duel, TakesAsMuchEnduranceAsIsMissingAfterAWin) {
   const DuelResult result = duel(5000, 2, 1);
   const double lost = 5000 - result.enduranceAfterWin.mean;
   EXPECT_NEAR(lost, result.takenARound.mean * result.rounds.mean, 1e-6);
@@ -67,7 +67,7 @@ TEST(Duel, takes_as_much_endurance_as_is_missing_after_a_win) {
 
 // The hero is slower than the monster and fells it with his first blow: all that he loses, he loses
 // before it.
-TEST(Duel, counts_the_opening_strike_of_the_quicker_monster) {
+TEST(Duel, CountsTheOpeningStrikeOfTheQuickerMonster) {
   DataFiles data = loadData(BROLGAN_ASSETS);
   data.monsters = "1\r\n1\r\nOsa\r\nosa.jpg\r\n30\r\n7\r\n7\r\n1\r\n0\r\n1\r\n0\r\n";
   const DuelResult result = fightDuel(data, {heroWith(50), 0, "Nóż", 50, 1, 1});
@@ -77,7 +77,7 @@ TEST(Duel, counts_the_opening_strike_of_the_quicker_monster) {
 }
 
 // Each fight is one shot of the "UltiGun", which costs a hero of full endurance 1 in one case of 18.
-TEST(Duel, counts_the_price_of_the_last_shot_of_the_ultigun) {
+TEST(Duel, CountsThePriceOfTheLastShotOfTheUltigun) {
   DataFiles data = loadData(BROLGAN_ASSETS);
   data.monsters = "1\r\n1\r\nOsa\r\nosa.jpg\r\n1\r\n7\r\n7\r\n1\r\n0\r\n1\r\n0\r\n";
   const DuelResult result = fightDuel(data, {heroWith(50), 0, "UltiGun", 4000, 1, 1});
@@ -86,14 +86,14 @@ TEST(Duel, counts_the_price_of_the_last_shot_of_the_ultigun) {
   EXPECT_NEAR(result.takenARound.mean, 50 - result.enduranceAfterWin.mean, 1e-9);
 }
 
-TEST(Duel, finds_other_figures_within_its_own_errors_with_another_seed) {
+TEST(Duel, FindsOtherFiguresWithinItsOwnErrorsWithAnotherSeed) {
   const DuelResult one = duel(12, 4, 1, 1);
   const DuelResult other = duel(12, 4, 1, 2);
   EXPECT_NE(one.rounds.mean, other.rounds.mean);
   EXPECT_NEAR(one.rounds.mean, other.rounds.mean, 6 * one.rounds.error);
 }
 
-TEST(Duel, refuses_a_weapon_that_the_hero_does_not_own) {
+TEST(Duel, RefusesAWeaponThatTheHeroDoesNotOwn) {
   const DataFiles data = loadData(BROLGAN_ASSETS);
   EXPECT_THROW(fightDuel(data, {heroWith(12), 0, "Miecz", 10, 1, 1}), std::invalid_argument);
 }

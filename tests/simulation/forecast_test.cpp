@@ -73,9 +73,7 @@ std::string heroFile(const HeroNotes& notes) {
   hero.Wyp(0) = notes.grenades;
   hero.Wyp(1) = notes.ammo;
   MemoryFiles files;
-  ItemWriter out(files, "h");
-  Player_Save(out, hero);
-  out.close();
+  Player_Save(ItemWriter(files, "h"), hero);
   return files.contents["h"];
 }
 
@@ -254,15 +252,15 @@ std::string faultOf(const Bout& bout, const HeroNotes& foreseen) {
          std::to_string(bout.monster + 1) + ": " + std::to_string(off) + " errors, apart " + std::to_string(apart);
 }
 
-TEST(Forecast, rehearses_every_weapon_as_the_screen_plays_it) {
+TEST(Forecast, RehearsesEveryWeaponAsTheScreenPlaysIt) {
   for (const Bout& bout : weaponBouts()) EXPECT_EQ(faultOf(bout, bout.hero), "");
 }
 
-TEST(Forecast, rehearses_every_spell_and_grenades_as_the_screen_plays_them) {
+TEST(Forecast, RehearsesEverySpellAndGrenadesAsTheScreenPlaysThem) {
   for (const Bout& bout : spellBouts()) EXPECT_EQ(faultOf(bout, bout.hero), "");
 }
 
-TEST(Forecast, off_by_one_in_armour_or_by_a_little_practice_would_be_noticed) {
+TEST(Forecast, OffByOneInArmourOrByALittlePracticeWouldBeNoticed) {
   const Bout bout = {"Okuty kij", grown(kWarrior), 24, {.weapon = 1}};
   HeroNotes thicker = bout.hero;
   ++thicker.steps[kArmour];
@@ -273,7 +271,7 @@ TEST(Forecast, off_by_one_in_armour_or_by_a_little_practice_would_be_noticed) {
 }
 
 // How far the reckoning is off, on average and at most, in the chance to win.
-TEST(Forecast, reckons_the_chance_to_win_near_the_rehearsal) {
+TEST(Forecast, ReckonsTheChanceToWinNearTheRehearsal) {
   const Foresight reckon = reckoning(known());
   double sum = 0;
   double most = 0;

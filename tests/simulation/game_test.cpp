@@ -30,15 +30,15 @@ std::vector<GameRecord> games(int threads, std::uint64_t run) {
   });
 }
 
-TEST(Game, is_the_same_on_any_number_of_cores) { expectSame(games(1, 7), games(3, 7)); }
+TEST(Game, IsTheSameOnAnyNumberOfCores) { expectSame(games(1, 7), games(3, 7)); }
 
-TEST(Game, differs_with_another_seed) {
+TEST(Game, DiffersWithAnotherSeed) {
   const auto one = games(1, 7);
   const auto other = games(1, 8);
   EXPECT_NE(one[0].turns.size(), other[0].turns.size());
 }
 
-TEST(Game, takes_turns_in_order_and_counts_each_players_own) {
+TEST(Game, TakesTurnsInOrderAndCountsEachPlayersOwn) {
   for (const GameRecord& game : games(1, 9)) {
     std::array<int, 4> turns{};
     for (const TurnRecord& turn : game.turns) {
@@ -47,7 +47,7 @@ TEST(Game, takes_turns_in_order_and_counts_each_players_own) {
   }
 }
 
-TEST(Game, of_a_single_player_ends_with_his_last_life_or_the_last_monster) {
+TEST(Game, OfASinglePlayerEndsWithHisLastLifeOrTheLastMonster) {
   const DataFiles data = loadData(BROLGAN_ASSETS);
   const Knowledge known(data);
   for (int i = 0; i < 5; ++i) {

@@ -15,13 +15,13 @@ std::string printedReport() {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-TEST(Report, was_made_from_the_data_files_as_they_are) {
+TEST(Report, WasMadeFromTheDataFilesAsTheyAre) {
   const DataFiles data = loadData(BROLGAN_ASSETS);
   EXPECT_NE(printedReport().find(fingerprintLine(data)), std::string::npos)
       << "run simulation/report.sh to make docs/balans.md anew";
 }
 
-TEST(Report, is_outdated_by_a_change_of_a_single_digit) {
+TEST(Report, IsOutdatedByAChangeOfASingleDigit) {
   const DataFiles data = loadData(BROLGAN_ASSETS);
   DataFiles changed = data;
   changed.monsters.back() = 'x';
