@@ -37,6 +37,8 @@ QFrame* monster(FormWindow& window) {
   return card;
 }
 
+constexpr int kRow = 33;
+
 QWidget* hero(FormWindow& window) {
   QWidget& box = window.at("Statystyki");
   QGridLayout& grid = *gridIn(window, box, 14, 2);
@@ -45,6 +47,7 @@ QWidget* hero(FormWindow& window) {
     addFigure(window, grid, i, member("label4", i), member("stat", i), 0, Type::figure);
   }
   addFigure(window, grid, 5, "label4(5)", "Inic");
+  for (int row = 0; row < 6; ++row) window.unit().row(grid, row, kRow);
   for (int i = 0; i < 2; ++i) {
     grid.addWidget(&figure(window, member("cur", i), Type::bigFigure), i == 0 ? 0 : 2, 2);
   }
