@@ -35,8 +35,8 @@ TEST(Data, HasOneLastMonsterAndHeLivesInTheLastZone) {
     if (monster.last) numbers.push_back(monster.number);
   }
   ASSERT_EQ(numbers.size(), 1U);
-  EXPECT_GE(numbers.front() + 1, kZones.back().OdPotwora.value());
-  EXPECT_LE(numbers.front() + 1, kZones.back().DoPotwora.value());
+  EXPECT_GE(numbers.front() + 1, kZones.back().OdPotwora);
+  EXPECT_LE(numbers.front() + 1, kZones.back().DoPotwora);
 }
 
 TEST(Data, LetsNeighboursDifferInMoreThanOneNumber) {
