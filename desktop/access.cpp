@@ -18,9 +18,7 @@ namespace {
 constexpr const char* kIsNotice = "notice";
 
 // The name that a label was given, else its words; by itself it would take the title of its frame.
-QString nameOf(const QLabel& label) {
-  return label.accessibleName().isEmpty() ? label.text() : label.accessibleName();
-}
+QString nameOf(const QLabel& label) { return label.accessibleName().isEmpty() ? label.text() : label.accessibleName(); }
 
 // A label that is bought by a click on its name.
 class CheckableLabel : public QAccessibleWidget {
