@@ -39,6 +39,7 @@ void setIconSoon(QApplication& application) {
 // The game from its first window to its end; answers the exit code of the program.
 int play(brolgan::desktop::Application& application) {
   using namespace brolgan;
+  desktop::PictureStore::keepMemorySmall();
   desktop::PictureStore pictures;
   desktop::prepareTitle(pictures, application.devicePixelRatio());
   desktop::theme::apply(application);

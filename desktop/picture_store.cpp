@@ -45,9 +45,9 @@ QImage decode(const QString& path, QSize box, Qt::AspectRatioMode mode) {
 
 }  // namespace
 
-// Pictures are large blocks: each gets memory of its own, which goes back as soon as it is free, and
-// the threads that decode share one heap.
-PictureStore::PictureStore() : cache_(kCacheKilobytes) {
+PictureStore::PictureStore() : cache_(kCacheKilobytes) {}
+
+void PictureStore::keepMemorySmall() {
   mallopt(M_MMAP_THRESHOLD, kLargeBlock);
   mallopt(M_TRIM_THRESHOLD, kLargeBlock);
   mallopt(M_ARENA_MAX, 1);

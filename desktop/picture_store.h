@@ -18,6 +18,10 @@ class PictureStore : public Pictures {
  public:
   PictureStore();
 
+  // Has the program keep little memory: pictures are large blocks, so each gets memory of its own, which
+  // goes back as soon as it is free, and the threads that decode share one heap. Once, at its start.
+  static void keepMemorySmall();
+
   // Raises the errors of a file that cannot be read, and invalidPicture when it is no picture or only
   // the beginning of one. A JPEG or PNG file is looked through from end to end but not decoded, which
   // waits for pixmap; any other is decoded to see that it can be.
