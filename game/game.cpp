@@ -22,6 +22,7 @@ void offer(Runtime& runtime, RandomSource& random) {
     if constexpr (std::is_constructible_v<Screen, Runtime&, RandomSource&>) {
       return std::make_unique<Screen>(owner, random);
     } else {
+      static_cast<void>(random);  // A screen without dice.
       return std::make_unique<Screen>(owner);
     }
   });

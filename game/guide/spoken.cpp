@@ -170,7 +170,7 @@ std::string player(const ControlEntry& entry) {
 }  // namespace
 
 std::string spoken(const std::string& screen, const ControlEntry& entry) {
-  const std::string own = isDepartment(screen) ? good(entry) : screen == screens::kSetUp ? player(entry) : "";
+  std::string own = isDepartment(screen) ? good(entry) : screen == screens::kSetUp ? player(entry) : "";
   if (!own.empty()) return own;
   const auto found = namesOf(screen).find(entry.fullName());
   if (found == namesOf(screen).end()) return {};
