@@ -19,7 +19,7 @@ bool tellsOfAPath(ErrorCode code) {
 }
 
 QString textOf(const RuntimeError& error) {
-  const QString text = QString::fromUtf8(error.what());
+  QString text = QString::fromUtf8(error.what());
   if (!tellsOfAPath(error.code())) return text;
   const QString name = toQt(error.place().file).replace('\\', '/');
   const QString folder = name.isEmpty() ? QDir::currentPath() : QFileInfo(name).absolutePath();
