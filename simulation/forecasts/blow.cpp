@@ -19,9 +19,9 @@ class DeviateTable {
   // x lies within the reach.
   [[nodiscard]] double at(double x) const {
     const double place = (x + kReach) * kPerUnit;
-    const auto entry = static_cast<std::size_t>(place);
-    const double rest = place - static_cast<double>(entry);
-    return values_[entry] + rest * (values_[entry + 1] - values_[entry]);
+    const int entry = static_cast<int>(place);
+    const double* left = values_.data() + entry;
+    return *left + (place - entry) * (left[1] - *left);
   }
 
   static constexpr double kReach = 4;
@@ -36,6 +36,9 @@ double normalShare(double x) { return std::erfc(-x / std::sqrt(2.0)) / 2; }
 
 // The mean of a standard normal deviate moved by x and cut off below 0.
 double normalExcess(double x) { return x * normalShare(x) + std::exp(-x * x / 2) / std::sqrt(2 * 3.14159265358979); }
+
+const DeviateTable share(normalShare);
+const DeviateTable excess(normalExcess);
 
 }  // namespace
 
@@ -57,7 +60,6 @@ double growthOf(const HeroNotes& hero, int weaponIndex) {
 }
 
 double pastArmour(const Blow& blow, double armour) {
-  static const DeviateTable excess(normalExcess);
   const double mean = blow.mean - armour;
   const double spread = std::sqrt(blow.variance + 0.08);
   if (mean >= 3 * spread) return mean;
@@ -66,7 +68,6 @@ double pastArmour(const Blow& blow, double armour) {
 }
 
 double below(double x) {
-  static const DeviateTable share(normalShare);
   if (x >= DeviateTable::kReach) return 1;
   if (x <= -DeviateTable::kReach) return 0;
   return share.at(x);

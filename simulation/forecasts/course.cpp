@@ -214,10 +214,11 @@ class Course {
     }
     const double each = dealt_ / attacks_;
     const double waste = weapon_.fire ? monster_.armour : std::max(each / 2, each - life);
+    const double perSpread = 1 / spread;
     double standing = 0;
     for (int k = 1; k <= monster_.count; ++k) {
       const double needed = k * life + (k - 1) * waste;
-      lastStands_ = 1 - below((dealt_ + 0.5 - needed) / spread);
+      lastStands_ = 1 - below((dealt_ + 0.5 - needed) * perSpread);
       standing += lastStands_;
     }
     return standing;
@@ -340,9 +341,10 @@ std::size_t hashOf(const Situation& situation) {
   std::uint64_t hash = 0;
   for (const std::uint64_t word : std::bit_cast<std::array<std::uint64_t, 4>>(situation)) {
     hash = (hash ^ word) * 0x9E3779B97F4A7C15U;
-    hash ^= hash >> 29U;
+    hash ^= hash >> 32U;
   }
-  return static_cast<std::size_t>(hash);
+  hash *= 0xBF58476D1CE4E5B9U;
+  return static_cast<std::size_t>(hash ^ (hash >> 32U));
 }
 
 Toll reckon(const Knowledge& known, const Situation& situation) { return Course(known, situation).run(); }

@@ -9,7 +9,7 @@ namespace brolgan::simulation {
 namespace {
 
 // Each situation has one place; a newer one takes it over.
-constexpr std::size_t kPlaces = 1U << 13U;
+constexpr std::size_t kPlaces = 1U << 14U;
 constexpr std::int16_t kNoMonster = -1;
 
 double magicAfter(const HeroNotes& hero, const Situation& situation, const Toll& toll) {

@@ -1,5 +1,5 @@
-// Reckons fights and remembers what it has reckoned: a player who weighs all goods of a shop meets
-// the same fights over and over.
+// Reckons fights and remembers what it has reckoned: players who weigh all goods of a shop meet the
+// same fights over and over.
 #pragma once
 
 #include <vector>
@@ -16,7 +16,7 @@ class Reckoner {
   Outlook operator()(const HeroNotes& hero, const Monster& monster, const Plan& plan, int initiative);
 
  private:
-  struct Remembered {
+  struct alignas(64) Remembered {
     Situation situation;
     Toll toll;
   };

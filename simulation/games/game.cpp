@@ -6,6 +6,7 @@
 #include "flow/setup.h"
 #include "flow/starter.h"
 #include "shop/shop.h"
+#include "simulation/forecasts/rehearsal.h"
 
 namespace brolgan::simulation {
 
@@ -18,8 +19,10 @@ class Table {
   Table(const DataFiles& data, const Knowledge& known, const GameSetup& setup)
       : known_(known), setup_(setup), stage_(data, setup.seed) {
     std::uint64_t seed = setup.seed ^ 0xB01DFACEU;
+    const Foresight reckon = reckoning(known);
+    const int rivals = static_cast<int>(setup.seats.size()) - 1;
     for (const Seat& seat : setup.seats) {
-      minds_.push_back(makeMind(seat.mind, known, seat.klasa, nextNumber(seed)));
+      minds_.push_back(makeMind(seat.mind, known, reckon, seat.klasa, rivals, nextNumber(seed)));
       minds_.back()->renounce(seat.without);
       record_.seats.push_back({.seat = seat});
     }

@@ -89,6 +89,13 @@ HeroNotes onAnOrdinaryDay(HeroNotes hero) {
   return hero;
 }
 
+Temper sensible(int rivals) {
+  constexpr std::array kCourage = {0.5, 1.0, 1.4, 1.8};
+  constexpr double kTemptation = 0.5;
+  constexpr int kMood = 3;
+  return {kCourage.at(static_cast<std::size_t>(rivals)), kTemptation, kMood};
+}
+
 Judgement::Judgement(const Knowledge& known, Foresight foresight, Foresight reckoning, const Temper& temper,
                      std::uint64_t seed)
     : known_(known), foresight_(std::move(foresight)), reckoning_(std::move(reckoning)) {

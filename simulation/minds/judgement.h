@@ -33,8 +33,9 @@ struct Temper {
   double temptation = 1;  // how good a gamble must look beside the best choice
   int mood = 1;           // one visit in so many finds him in the mood for one
 };
-inline constexpr Temper kSensible = {1, 0.6, 8};
-inline constexpr Temper kDaredevil = {2.5, 0.2, 2};
+// A sensible player hurries when others may be there before him, and takes his time alone.
+Temper sensible(int rivals);
+inline constexpr Temper kDaredevil = {3, 0.2, 2};
 
 class Judgement {
  public:

@@ -47,15 +47,16 @@ bool Mind::buy(DepartmentScreen& screen, const Offer& offer) {
   return true;
 }
 
-std::unique_ptr<Mind> makeMind(MindKind kind, const Knowledge& known, int klasa, std::uint64_t seed) {
-  const Foresight reckon = reckoning(known);
+std::unique_ptr<Mind> makeMind(MindKind kind, const Knowledge& known, const Foresight& reckon, int klasa, int rivals,
+                               std::uint64_t seed) {
   switch (kind) {
     case MindKind::newcomer:
       return std::make_unique<NewcomerMind>(known, klasa, seed);
     case MindKind::sensible:
-      return std::make_unique<CarefulMind>(known, klasa, seed, reckon, reckon, kSensible);
+      return std::make_unique<CarefulMind>(known, klasa, seed, reckon, reckon, sensible(rivals));
     case MindKind::greedy:
-      return std::make_unique<CarefulMind>(known, klasa, seed, rehearsing(known, seed, reckon), reckon, kSensible);
+      return std::make_unique<CarefulMind>(known, klasa, seed, rehearsing(known, seed, reckon), reckon,
+                                           sensible(rivals));
     case MindKind::gambler:
       return std::make_unique<CarefulMind>(known, klasa, seed, reckon, reckon, kDaredevil);
     case MindKind::bare:

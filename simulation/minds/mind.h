@@ -62,7 +62,9 @@ class Mind {
   }();
 };
 
-// Makes a mind; equal seeds make equal minds.
-std::unique_ptr<Mind> makeMind(MindKind kind, const Knowledge& known, int klasa, std::uint64_t seed);
+// Makes a mind for a table with so many others, all of whom may share one reckoning; equal seeds make
+// equal minds.
+std::unique_ptr<Mind> makeMind(MindKind kind, const Knowledge& known, const Foresight& reckon, int klasa, int rivals,
+                               std::uint64_t seed);
 
 }  // namespace brolgan::simulation

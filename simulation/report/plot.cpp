@@ -55,9 +55,19 @@ double largest(const std::vector<double>& values) {
   return most;
 }
 
+// A step of 1, 2 or 5 times a power of ten, at least as large.
+double roundStep(double least) {
+  const double power = std::pow(10, std::floor(std::log10(least)));
+  for (const double factor : {1.0, 2.0, 5.0}) {
+    if (factor * power >= least) return factor * power;
+  }
+  return 10 * power;
+}
+
 }  // namespace
 
-std::string barChart(const std::string& title, const std::vector<Bar>& bars, const std::vector<double>& guides) {
+std::string barChart(const std::string& title, const std::string& axis, const std::vector<Bar>& bars,
+                     const std::vector<double>& guides, const std::string& legend) {
   constexpr int kLeft = 220;
   constexpr int kRow = 20;
   std::vector<double> values = guides;
@@ -72,10 +82,17 @@ std::string barChart(const std::string& title, const std::vector<Bar>& bars, con
     body += text(kLeft + bars[i].value * scale + 6, y + 14, shown(bars[i].value), "start", 12);
   }
   for (const double guide : guides) body += line(kLeft + guide * scale, kTop, bottom);
-  return sheet(title, bottom + 16, body);
+  const double step = roundStep(largest(values) / 6);
+  for (double mark = 0; mark <= largest(values) + 1e-9; mark += step) {
+    body += text(kLeft + mark * scale, bottom + 16, shown(mark), "middle", 11);
+  }
+  body += text(kLeft + (kWidth - kLeft - 70) / 2.0, bottom + 36, axis, "middle", 12);
+  if (!legend.empty()) body += text(kLeft + (kWidth - kLeft - 70) / 2.0, bottom + 54, "– – " + legend, "middle", 12);
+  return sheet(title, bottom + (legend.empty() ? 48 : 66), body);
 }
 
-std::string histogram(const std::string& title, const std::string& axis, int first, const std::vector<double>& values) {
+std::string histogram(const std::string& title, const std::string& axis, const std::string& height, int first,
+                      const std::vector<double>& values) {
   constexpr int kLeft = 40;
   constexpr int kHeight = 220;
   const double step = (kWidth - 2.0 * kLeft) / std::max<double>(1, static_cast<double>(values.size()));
@@ -91,6 +108,11 @@ std::string histogram(const std::string& title, const std::string& axis, int fir
       body += text(x + step / 2, bottom + 15, std::to_string(number), "middle", 11);
     }
   }
+  const double mark = roundStep(largest(values) / 5);
+  for (double value = 0; value <= largest(values) + 1e-9; value += mark) {
+    body += text(kLeft - 4, bottom - value * scale + 4, shown(value), "end", 10);
+  }
+  body += text(kLeft, kTop - 4, height, "start", 12);
   body += text(kWidth / 2.0, bottom + 34, axis, "middle", 12);
   return sheet(title, bottom + 46, body);
 }

@@ -6,8 +6,10 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "simulation/report/advice.h"
 #include "simulation/report/aims.h"
 #include "simulation/report/plot.h"
+#include "simulation/report/worth.h"
 
 namespace brolgan::simulation {
 
@@ -29,19 +31,18 @@ std::vector<Bar> classBars(const Study& study) {
   return bars;
 }
 
-std::string lengthPlot(const Study& study) {
+std::vector<double> gamesWonByTurn(const Study& study) {
   const auto turns = winningTurns(study.games);
   const int last = turns.empty() ? 1 : turns.back();
   std::vector<double> counts(static_cast<std::size_t>(last), 0);
   for (const int turn : turns) counts[static_cast<std::size_t>(turn - 1)] += 1;
-  return histogram("Długość partii", "tura zwycięzcy, w której padł „Król Zagłady”", 1, counts);
+  return counts;
 }
 
-std::string zonePlot(const Tallies& tallies) {
-  std::vector<std::string> names;
+// Of the heroes at each turn, the share that chose each zone.
+std::vector<std::vector<double>> zoneShares(const Tallies& tallies) {
   std::vector<std::vector<double>> shares;
   for (std::size_t zone = 0; zone < kZoneCount; ++zone) {
-    names.emplace_back(kZones[zone].caption);
     std::vector<double> row;
     for (std::size_t t = 0; t < kShownTurns; ++t) {
       const int fights = tallies.turns[t].fights;
@@ -49,7 +50,13 @@ std::string zonePlot(const Tallies& tallies) {
     }
     shares.push_back(row);
   }
-  return shadeTable("Wybrana strefa według tury (w % bohaterów)", "tura bohatera", names, shares);
+  return shares;
+}
+
+std::vector<std::string> zoneNames() {
+  std::vector<std::string> names;
+  for (const Strefa& zone : kZones) names.emplace_back(zone.caption);
+  return names;
 }
 
 std::vector<Bar> boughtBars(const Knowledge& known, const Tallies& tallies, int from, int to) {
@@ -61,41 +68,87 @@ std::vector<Bar> boughtBars(const Knowledge& known, const Tallies& tallies, int 
   return bars;
 }
 
-std::string pointsPlot(const Tallies& tallies) {
+std::vector<double> pointsByTurn(const Tallies& tallies) {
   std::vector<double> means;
   for (const Tally& turn : tallies.turns) means.push_back(turn.fights > 0 ? turn.points / turn.fights : 0);
-  return histogram("Zdobyte punkty według tury (średnio na bohatera)", "tura bohatera", 1, means);
+  return means;
 }
 
-std::string deathPlot(const Knowledge& known, const Tallies& tallies) {
+std::vector<Bar> deathBars(const Knowledge& known, const Tallies& tallies) {
   std::vector<Bar> bars;
   for (std::size_t i = 0; i < kMonsters; ++i) {
     const Tally& monster = tallies.monsters[i];
     const double share = monster.fights > 0 ? 100.0 * monster.deaths / monster.fights : 0;
     bars.push_back({std::to_string(i + 1) + ". " + known.monsters[i].name, share});
   }
-  return barChart("Śmierci na 100 walk z potworem", bars);
+  return bars;
+}
+
+std::string barCsv(const char* what, const std::vector<Bar>& bars) {
+  std::ostringstream out;
+  out << "name," << what << "\n";
+  for (const Bar& bar : bars) out << '"' << bar.name << "\"," << bar.value << "\n";
+  return out.str();
+}
+
+std::string turnCsv(const char* what, const std::vector<double>& values) {
+  std::ostringstream out;
+  out << "turn," << what << "\n";
+  for (std::size_t i = 0; i < values.size(); ++i) out << i + 1 << ',' << values[i] << "\n";
+  return out.str();
+}
+
+std::string zoneCsv(const std::vector<std::vector<double>>& shares) {
+  std::ostringstream out;
+  out << "zone,turn,share\n";
+  const auto names = zoneNames();
+  for (std::size_t zone = 0; zone < shares.size(); ++zone) {
+    for (std::size_t t = 0; t < shares[zone].size(); ++t) {
+      out << '"' << names[zone] << "\"," << t + 1 << ',' << shares[zone][t] << "\n";
+    }
+  }
+  return out.str();
+}
+
+// A plot and, beside it, the figures in it.
+void storePlot(const fs::path& folder, const std::string& name, const std::string& plot, const std::string& figures) {
+  store(folder / (name + ".svg"), plot);
+  store(folder / (name + ".csv"), figures);
 }
 
 void writePlots(const fs::path& folder, const Knowledge& known, const Study& study, const Tallies& tallies) {
-  constexpr int kSpellPlace = kStatistics + kWeapons;
-  store(folder / "klasy.svg", barChart("Udział klas w zwycięstwach (w %)", classBars(study), {6, 10, 15}));
-  store(folder / "dlugosc.svg", lengthPlot(study));
-  store(folder / "strefy.svg", zonePlot(tallies));
-  store(folder / "bronie.svg",
-        barChart("Bronie kupione na 100 karier", boughtBars(known, tallies, kStatistics, kSpellPlace), {3}));
-  store(folder / "czary.svg", barChart("Czary, sprzęt i zapasy kupione na 100 karier",
-                                       boughtBars(known, tallies, kSpellPlace, kOfferPlaces), {5}));
-  store(folder / "punkty.svg", pointsPlot(tallies));
-  store(folder / "smierci.svg", deathPlot(known, tallies));
+  const auto classes = classBars(study);
+  storePlot(folder, "klasy", barChart("Zwycięstwa klas", "% zwycięstw", classes, {6, 15}, "cel: od 6 do 15%"),
+            barCsv("percent_of_wins", classes));
+  const auto won = gamesWonByTurn(study);
+  storePlot(folder, "dlugosc",
+            histogram("Długość partii", "tura zwycięzcy, w której padł „Król Zagłady”", "partie", 1, won),
+            turnCsv("games_won", won));
+  const auto zones = zoneShares(tallies);
+  storePlot(folder, "strefy",
+            shadeTable("Wybrana strefa według tury (w % bohaterów)", "tura bohatera", zoneNames(), zones),
+            zoneCsv(zones));
+  const auto weapons = boughtBars(known, tallies, kFirstWeapon, kFirstSpell);
+  storePlot(folder, "bronie", barChart("Kupione bronie", "kupiona na 100 karier", weapons, {3}, "cel: co najmniej 3"),
+            barCsv("bought_in_100_careers", weapons));
+  const auto goods = boughtBars(known, tallies, kFirstSpell, kOfferPlaces);
+  storePlot(folder, "czary",
+            barChart("Kupione czary, sprzęt i zapasy", "kupione na 100 karier", goods, {5}, "cel: co najmniej 5"),
+            barCsv("bought_in_100_careers", goods));
+  const auto points = pointsByTurn(tallies);
+  storePlot(folder, "punkty", histogram("Zdobyte punkty według tury", "tura bohatera", "punkty na walkę", 1, points),
+            turnCsv("points_a_fight", points));
+  const auto deaths = deathBars(known, tallies);
+  storePlot(folder, "smierci", barChart("Od czego się ginie", "śmierci na 100 walk z potworem", deaths),
+            barCsv("deaths_in_100_fights", deaths));
 }
 
 std::string aimTable(const std::vector<Aim>& aims) {
   std::ostringstream out;
-  out << "| Cel | Miało być | Jest | |\n|---|---|---|---|\n";
+  out << "| Cel | Miało być | Było | Jest (przedział 95%) | |\n|---|---|---|---|---|\n";
   for (const Aim& aim : aims) {
-    out << "| " << aim.text << " | " << aim.wanted << " | " << aim.found << " | " << (aim.reached ? "✓" : "✗")
-        << " |\n";
+    out << "| " << aim.text << " | " << aim.wanted << " | " << aim.before << " | " << aim.found << " | "
+        << (aim.reached ? "✓" : "✗") << " |\n";
   }
   return out.str();
 }
@@ -154,9 +207,10 @@ const char* const kIntroduction =
     "# Balans w liczbach\n\n"
     "Dla graczy, którzy lubią wiedzieć, na co się porywają. Liczby pochodzą z całych partii rozegranych przez\n"
     "wymyślonych graczy, którzy widzą tylko to, co widać na ekranach, i klikają tylko to, co da się kliknąć.\n"
-    "**Rozsądny** waży spodziewane obrażenia i ryzyko ołówkiem na kartce. **Nowicjusz** kupuje, co groźnie brzmi, po\n"
-    "łatwej walce idzie strefę dalej, po bolesnej się cofa. **Chciwy** przed każdym wyborem rozgrywa walkę w "
-    "głowie.\n\n";
+    "**Rozsądny** waży spodziewane obrażenia i ryzyko ołówkiem na kartce. **Nowicjusz** kupuje to, co\n"
+    "brzmi groźnie, idzie strefę dalej, gdy było łatwo, a strefę bliżej, gdy bolało. **Chciwy** rozgrywa każdą walkę\n"
+    "w głowie, nim ją wybierze. **Hazardzista** ciągnie do „Pandorii” i do „Tronu Królów”, nim przyjdzie pora.\n\n"
+    "W nawiasach stoją przedziały, w których z ufnością 95% leży prawdziwa wartość.\n\n";
 
 const char* const kRules =
     "\n## Z czym liczby nie wygrają\n\n"
@@ -164,20 +218,97 @@ const char* const kRules =
     "- Premia Strzelca (+55% do broni strzeleckich) jest pokazywana, ale do obrażeń się nie liczy. Strzelec gra więc\n"
     "  jak bohater bez klasy, a Satrapa jak Strzelec z czterema punktami więcej: różnica między nimi mówi, ile znaczy\n"
     "  dobry początek.\n"
-    "- Ryzykant dostaje potrójne punkty i nawet z tym, co przepada, rośnie najszybciej. Nagrody potworów leżą tuż nad\n"
-    "  połówką (1,6; 2,6; 3,6...), bo wtedy zaokrąglanie najbardziej pomaga pozostałym, a i tak wygrywa częściej.\n"
+    "- Ryzykant dostaje potrójne punkty i nawet z tym, co przepada, rośnie najszybciej. Nagrody potworów leżą na ogół\n"
+    "  tuż nad połówką, bo wtedy zaokrąglanie najbardziej pomaga pozostałym.\n"
     "  Hamują go działy sklepu: co druga wizyta pozwala rozwijać cechy, co trzecia kupić broń.\n"
     "- Nagrodę liczy się tylko z kości ataku i pancerza; stały dodatek i wytrzymałość potwora nic nie dają. Grupa\n"
     "  płaci za liczebność, więc w każdej strefie trafia się łup większy od innych.\n"
     "- Nóż i Łuk ma od początku każdy, więc nie trzeba ich kupować; można je za to sprzedać przy tworzeniu bohatera.\n"
     "- Broń biała doskonali się w użyciu (do ponad 100% premii), dlatego stara, wyćwiczona broń długo wygrywa z nową.\n"
     "- Średnie obrażenia na ekranie przygotowań zaokrąglają średnią jednej kości. Potwory rzucają więc kośćmi o\n"
-    "  nieparzystej liczbie ścian (od k3 do k25): ich średnia jest całkowita, a pokazana liczba dokładna.\n";
+    "  nieparzystej liczbie ścian: ich średnia jest całkowita, a pokazana liczba dokładna.\n";
+
+// What a dear weapon adds to the chance to win.
+std::string dearTable(const Knowledge& known, const Study& study) {
+  constexpr int kHeroes = 400;
+  std::ostringstream out;
+  out << "\n| Droga broń | Szansa wygranej od 6. strefy wobec najlepszej tańszej, w pkt. proc. (95%) |\n|---|---|\n";
+  for (const WeaponWorth& worth : worthOfDearWeapons(known, study.games, kHeroes)) {
+    out << "| " << known.weapons[static_cast<std::size_t>(worth.weapon)].name << " | "
+        << oneDigit(100 * worth.gain.value()) << " ±" << oneDigit(100 * worth.gain.margin()) << " |\n";
+  }
+  out << "\nLiczone ołówkiem dla bohaterów, którzy właśnie pierwszy raz wybierają się dalej niż do piątej strefy; "
+         "każdy\n"
+         "ma w ręku tylko tę jedną broń, a najlepszą tańszą dobiera się do niego z osobna.\n";
+  return out.str();
+}
+
+// What a good is worth: how often those win who never buy it, where those who may win the rest.
+std::string refusalTable(const Knowledge& known, const Study& study) {
+  if (study.refusals.empty()) return "";
+  std::ostringstream out;
+  out << "\n| Bez tego bohater wygrywa… | na 100 zwycięstw | przedział 95% |\n|---|---|---|\n";
+  for (const Refusal& refusal : study.refusals) {
+    const Share share = refusal.share();
+    out << "| " << offerName(known, refusal.place) << " | " << oneDigit(100 * share.value()) << " | "
+        << oneDigit(100 * share.low()) << "–" << oneDigit(100 * share.high()) << " |\n";
+  }
+  out << "\nPrzy każdym stole siedzi dwóch, którzy danej rzeczy nie kupują nigdy, i dwóch, którzy mogą; 50 znaczy, że\n"
+         "rzecz niczego nie zmienia, mniej niż 50, że pomaga. Gdy przedział obejmuje 50, liczby tego nie "
+         "rozstrzygają.\n";
+  return out.str();
+}
+
+// How long an evening is, by what a person takes for a visit to the shop and for a round.
+std::string minutesTable(const Study& study) {
+  constexpr double kShopMinutes = 1;
+  constexpr double kRoundMinutes = 0.15;
+  std::ostringstream out;
+  out << "| Gracze | Zwykle (mediana) | Co dziesiąta krócej niż | Co dziesiąta dłużej niż |\n|---|---|---|---|\n";
+  for (int players = 1; players <= 4; ++players) {
+    const auto& games = players == 4 ? study.games : study.smaller[static_cast<std::size_t>(players - 1)];
+    std::vector<int> minutes;
+    for (const GameRecord& game : games) {
+      double sum = 0;
+      for (const TurnRecord& turn : game.turns) sum += kShopMinutes + kRoundMinutes * turn.rounds;
+      minutes.push_back(static_cast<int>(sum + 0.5));
+    }
+    std::sort(minutes.begin(), minutes.end());
+    out << "| " << players << " | " << quantile(minutes, 0.5) << " min | " << quantile(minutes, 0.1) << " min | "
+        << quantile(minutes, 0.9) << " min |\n";
+  }
+  out << "\nLiczone po minucie na wizytę w sklepie z przygotowaniem i po 9 sekund na rundę walki.\n";
+  return out.str();
+}
+
+const char* const kDice =
+    "\n## Kość tej gry\n\n"
+    "Skrajne ścianki wypadają tu dwa razy rzadziej niż każda inna. Na k6 jedynka i szóstka mają po 10%, pozostałe po\n"
+    "20%; na k4 skrajne mają po 16,7%, środkowe po 33,3%; na k30 jedynka wypada raz na 58 rzutów. Średnia jest taka\n"
+    "sama jak zwykłej kości, ale rozrzut mniejszy: odchylenie k6 wynosi 1,52 zamiast 1,71. Kto liczy na szóstkę,\n"
+    "przelicza się o połowę; kto boi się granatu we własnych rękach, może się bać o połowę mniej.\n";
+
+// The options that make the same study again, as far as they differ from the usual ones.
+std::string optionsOf(const StudySetup& setup) {
+  const StudySetup usual;
+  std::string options;
+  const auto tell = [&options](const char* name, auto value, auto known) {
+    if (value != known) options += std::string(" ") + name + " " + std::to_string(value);
+  };
+  tell("--games", setup.games, usual.games);
+  tell("--smaller", setup.smaller, usual.smaller);
+  tell("--newcomers", setup.newcomers, usual.newcomers);
+  tell("--rivalries", setup.rivalries, usual.rivalries);
+  tell("--refusals", setup.refusals, usual.refusals);
+  tell("--trials", setup.trials, usual.trials);
+  tell("--seed", setup.seed, usual.seed);
+  return options;
+}
 
 std::string howTo(const DataFiles& data, const Study& study) {
   std::ostringstream out;
   out << "\n## Jak to powtórzyć\n\nJedno polecenie, z głównego folderu gry:\n\n"
-      << "    simulation/report.sh\n\n"
+      << "    simulation/report.sh" << optionsOf(study.setup) << "\n\n"
       << "Rozgrywa " << study.games.size() << " partii po " << study.setup.players << " graczy (" << study.setup.points
       << " punktów na start, ziarno " << study.setup.seed
       << ") i zapisuje ten plik z wykresami od nowa. Te same ziarna dają te same liczby na dowolnej\n"
@@ -190,18 +321,22 @@ std::string howTo(const DataFiles& data, const Study& study) {
 std::string markdown(const DataFiles& data, const Knowledge& known, const Study& study, const Tallies& tallies) {
   std::ostringstream out;
   out << kIntroduction << "## Cele\n\n" << aimTable(allAims(known, study, tallies)) << "\n" << rivalryText(study);
-  out << "\n## Klasy\n\n![Udział klas w zwycięstwach](balans/klasy.svg)\n"
-      << "\n## Długość partii\n\n![Długość partii](balans/dlugosc.svg)\n"
+  out << adviceText(known, study, tallies, measure(study.games));
+  out << "\n## Klasy\n\n![Udział klas w zwycięstwach](balans/klasy.svg)\n\n"
+      << classTable(known, study) << "\n## Długość partii\n\n![Długość partii](balans/dlugosc.svg)\n"
+      << "\n### Wieczór w minutach\n\n"
+      << minutesTable(study) << kDice
       << "\n## Dokąd iść\n\n![Strefy według tury](balans/strefy.svg)\n\n![Punkty według tury](balans/punkty.svg)\n"
       << "\n## Co kupować\n\n![Bronie](balans/bronie.svg)\n\n![Czary, sprzęt i zapasy](balans/czary.svg)\n\n"
-      << weaponTable(known, tallies) << "\n## Od czego się ginie\n\n![Śmierci](balans/smierci.svg)\n\n"
+      << weaponTable(known, tallies) << dearTable(known, study) << refusalTable(known, study)
+      << "\n## Od czego się ginie\n\n![Śmierci](balans/smierci.svg)\n\n"
       << monsterTable(known, tallies) << kRules << howTo(data, study);
   return out.str();
 }
 
 std::string csv(const Study& study) {
   std::ostringstream out;
-  out << "partia,ziarno,gracz,klasa,umysl,wygral,tura_zwyciestwa,walki,smierci,punkty_zdobyte\n";
+  out << "game,seed,player,class,mind,won,winning_turn,fights,deaths,points_earned\n";
   for (std::size_t i = 0; i < study.games.size(); ++i) {
     const GameRecord& game = study.games[i];
     for (std::size_t s = 0; s < game.seats.size(); ++s) {
@@ -215,7 +350,7 @@ std::string csv(const Study& study) {
       const bool won = game.winner == static_cast<int>(s);
       out << i + 1 << ',' << game.seed << ',' << s + 1 << ','
           << kClassTable[static_cast<std::size_t>(game.seats[s].seat.klasa)].caption << ','
-          << kMindNames[static_cast<std::size_t>(game.seats[s].seat.mind)] << ',' << won << ','
+          << kMindWords[static_cast<std::size_t>(game.seats[s].seat.mind)] << ',' << won << ','
           << (won ? game.winnerTurn : 0) << ',' << own.fights << ',' << own.deaths << ',' << own.points << '\n';
     }
   }
@@ -224,20 +359,20 @@ std::string csv(const Study& study) {
 
 std::string json(const DataFiles& data, const Knowledge& known, const Study& study, const Tallies& tallies) {
   std::ostringstream out;
-  out << "{\n  \"odcisk_danych\": \"" << fingerprint(data) << "\",\n  \"partie\": " << study.games.size()
-      << ",\n  \"ziarno\": " << study.setup.seed << ",\n  \"cele\": [\n";
+  out << "{\n  \"fingerprint\": \"" << fingerprint(data) << "\",\n  \"games\": " << study.games.size()
+      << ",\n  \"seed\": " << study.setup.seed << ",\n  \"aims\": [\n";
   const auto aims = allAims(known, study, tallies);
   for (std::size_t i = 0; i < aims.size(); ++i) {
-    out << "    {\"cel\": \"" << aims[i].text << "\", \"mialo_byc\": \"" << aims[i].wanted << "\", \"jest\": \""
-        << aims[i].found << "\", \"spelniony\": " << (aims[i].reached ? "true" : "false") << "}"
+    out << "    {\"aim\": \"" << aims[i].text << "\", \"wanted\": \"" << aims[i].wanted << "\", \"found\": \""
+        << aims[i].found << "\", \"met\": " << (aims[i].reached ? "true" : "false") << "}"
         << (i + 1 < aims.size() ? "," : "") << "\n";
   }
-  out << "  ],\n  \"klasy\": {";
+  out << "  ],\n  \"classes\": {";
   const auto shares = classShares(study.games);
   for (std::size_t i = 0; i < kClasses; ++i) {
     out << (i > 0 ? ", " : "") << "\"" << kClassTable[i].caption << "\": " << shares[i];
   }
-  out << "},\n  \"zakupy_na_100_karier\": {";
+  out << "},\n  \"bought_in_100_careers\": {";
   bool first = true;
   for (int place = 0; place < kOfferPlaces; ++place) {
     const std::string name = offerName(known, place);

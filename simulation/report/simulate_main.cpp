@@ -16,6 +16,7 @@ namespace {
 
 constexpr const char* kUsage =
     "simulate [--games N] [--players 1..4] [--mind sensible|newcomer|greedy|gambler] [--rivalries N]\n"
+    "         [--smaller N] [--newcomers N] [--refusals N]\n"
     "         [--trials N] [--points P] [--seed S] [--threads T] [--data FOLDER] [--results FOLDER]\n";
 
 MindKind mindNamed(const std::string& name) {
@@ -29,6 +30,9 @@ StudySetup setupFrom(const Options& options) {
   StudySetup setup;
   setup.games = options.number("--games", setup.games);
   setup.players = options.number("--players", setup.players);
+  setup.smaller = options.number("--smaller", setup.smaller);
+  setup.newcomers = options.number("--newcomers", setup.newcomers);
+  setup.refusals = options.number("--refusals", setup.refusals);
   setup.rivalries = options.number("--rivalries", setup.rivalries);
   setup.trials = options.number("--trials", setup.trials);
   setup.points = options.number("--points", setup.points);
@@ -64,8 +68,8 @@ void run(const Options& options) {
 int main(int count, char** arguments) {
   try {
     const Options options(count, arguments,
-                          {"--games", "--players", "--mind", "--rivalries", "--trials", "--points", "--seed",
-                           "--threads", "--data", "--results"});
+                          {"--games", "--players", "--mind", "--rivalries", "--smaller", "--newcomers", "--refusals",
+                           "--trials", "--points", "--seed", "--threads", "--data", "--results"});
     if (!options.words.empty()) throw std::invalid_argument(kUsage);
     run(options);
   } catch (const std::exception& error) {

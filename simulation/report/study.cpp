@@ -10,6 +10,9 @@ namespace {
 
 constexpr std::uint64_t kRivalSeed = 0x1000;
 constexpr std::uint64_t kTrialSeed = 0x2000;
+constexpr std::uint64_t kSmallerSeed = 0x4000;
+constexpr std::uint64_t kNewcomerSeed = 0x5000;
+constexpr std::uint64_t kRefusalSeed = 0x6000;
 
 std::function<void(int)> named(const Progress& progress, const char* what, int all) {
   if (!progress) return {};
@@ -29,13 +32,43 @@ Rivalry playRivalry(const DataFiles& data, const Knowledge& known, MindKind othe
     return randomTable(seed, 4, {MindKind::sensible, other});
   };
   const auto games = playGames(data, known, setup.rivalries, setup.threads, table,
-                               named(progress, kMindNames[static_cast<std::size_t>(other)], setup.rivalries));
+                               named(progress, kMindWords[static_cast<std::size_t>(other)], setup.rivalries));
   for (const GameRecord& game : games) {
     if (game.winner < 0) continue;
     const MindKind winner = game.seats[static_cast<std::size_t>(game.winner)].seat.mind;
     (winner == MindKind::sensible ? rivalry.sensible : rivalry.others) += 1;
   }
   return rivalry;
+}
+
+// Two seats of a table refuse, which two changes from game to game.
+Refusal playRefusal(const DataFiles& data, const Knowledge& known, int place, const StudySetup& setup) {
+  const auto table = [&](int i) {
+    GameSetup game =
+        randomTable(seedOf(setup.seed + kRefusalSeed + static_cast<std::uint64_t>(place), i), 4, {MindKind::sensible});
+    for (std::size_t seat = 0; seat < game.seats.size(); ++seat) {
+      if ((seat + static_cast<std::size_t>(i)) % 2 == 0) game.seats[seat].without = place;
+    }
+    return game;
+  };
+  Refusal refusal{place};
+  for (const GameRecord& game : playGames(data, known, setup.refusals, setup.threads, table)) {
+    if (game.winner < 0) continue;
+    const bool refused = game.seats[static_cast<std::size_t>(game.winner)].seat.without == place;
+    (refused ? refusal.refusers : refusal.others) += 1;
+  }
+  return refusal;
+}
+
+// The places of what can be bought besides steps and weapons.
+std::vector<int> goodsForSale() {
+  std::vector<int> places;
+  for (int i = 0; i < kSpells; ++i) {
+    if (kSpellTable[static_cast<std::size_t>(i)].forSale) places.push_back(Offer{Ware::spell, i}.place());
+  }
+  for (const int i : {kMortar, kSucker}) places.push_back(Offer{Ware::gear, i}.place());
+  for (int i = 0; i < kSupplies; ++i) places.push_back(Offer{Ware::supply, i}.place());
+  return places;
 }
 
 // How much of a monster's life a weapon takes in a round, with all that makes weapons differ.
@@ -111,14 +144,30 @@ Study makeStudy(const DataFiles& data, const StudySetup& setup, const Progress& 
     return game;
   };
   const auto began = std::chrono::steady_clock::now();
-  study.games = playGames(data, known, setup.games, setup.threads, table, named(progress, "partie", setup.games));
+  study.games = playGames(data, known, setup.games, setup.threads, table, named(progress, "games", setup.games));
   study.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - began).count();
-  for (const MindKind other : {MindKind::newcomer, MindKind::greedy}) {
+  for (int players = 1; players < 4; ++players) {
+    const std::uint64_t run = setup.seed + kSmallerSeed + static_cast<std::uint64_t>(players);
+    const auto smaller = [&](int i) { return randomTable(seedOf(run, i), players, {MindKind::sensible}); };
+    study.smaller[static_cast<std::size_t>(players - 1)] =
+        playGames(data, known, setup.smaller, setup.threads, smaller, named(progress, "smaller tables", setup.smaller));
+  }
+  const auto beginners = [&](int i) {
+    return randomTable(seedOf(setup.seed + kNewcomerSeed, i), 4, {MindKind::newcomer});
+  };
+  study.newcomers =
+      playGames(data, known, setup.newcomers, setup.threads, beginners, named(progress, "newcomers", setup.newcomers));
+  const auto goods = setup.refusals > 0 ? goodsForSale() : std::vector<int>();
+  for (const int place : goods) {
+    study.refusals.push_back(playRefusal(data, known, place, setup));
+    if (progress) progress("refusals", static_cast<int>(study.refusals.size()), static_cast<int>(goods.size()));
+  }
+  for (const MindKind other : {MindKind::newcomer, MindKind::greedy, MindKind::gambler}) {
     if (setup.rivalries > 0) study.rivalries.push_back(playRivalry(data, known, other, setup, progress));
   }
   for (int klasa = 0; klasa < kClasses; ++klasa) {
     study.firstFights[static_cast<std::size_t>(klasa)] = tryFirstFights(data, known, klasa, setup);
-    if (progress) progress("pierwsze walki", klasa + 1, kClasses);
+    if (progress) progress("first fights", klasa + 1, kClasses);
   }
   return study;
 }

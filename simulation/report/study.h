@@ -8,12 +8,16 @@
 #include <vector>
 
 #include "simulation/games/batch.h"
+#include "simulation/report/statistics.h"
 
 namespace brolgan::simulation {
 
 struct StudySetup {
   int games = 1000;     // of four sensible players with random classes
+  int smaller = 300;    // games of three, two and one sensible player each
+  int newcomers = 100;  // games of four newcomers
   int rivalries = 300;  // of each mind against the sensible one
+  int refusals = 100;   // games for each good, in which two of four players never buy it
   int trials = 400;     // first fights of each class
   int players = 4;
   int points = 12;
@@ -30,6 +34,16 @@ struct Rivalry {
   int others = 0;
 };
 
+// Wins of those who never buy a good, beside as many who may.
+struct Refusal {
+  int place = 0;  // of the good
+  int refusers = 0;
+  int others = 0;
+
+  // Of all wins, those of the refusers.
+  [[nodiscard]] Share share() const { return {static_cast<double>(refusers), static_cast<double>(refusers + others)}; }
+};
+
 struct FirstFights {
   int tries = 0;
   int fresh = 0;  // won by a hero on whom the points were spent
@@ -39,7 +53,10 @@ struct FirstFights {
 struct Study {
   StudySetup setup;
   std::vector<GameRecord> games;
+  std::array<std::vector<GameRecord>, 3> smaller;  // of one, two and three players
+  std::vector<GameRecord> newcomers;
   std::vector<Rivalry> rivalries;
+  std::vector<Refusal> refusals;
   std::array<FirstFights, kClasses> firstFights{};
   double seconds = 0;  // that the games took
 };

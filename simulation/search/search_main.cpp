@@ -72,10 +72,11 @@ void print(const Score& score) {
 
 // What a zone was like: how often it was chosen, and what became of those who went there.
 void printZones(const Measures& all) {
-  std::cout << "zone\tof turns\tdeaths\tone round\tlost\n";
+  std::cout << "zone\tof turns\tdeaths\tone round\tlost\tarmour\n";
   for (const Danger& zone : all.zones) {
     std::cout << &zone - all.zones.data() + 1 << '\t' << 100 * zone.deaths.whole / all.oneRound.whole << '\t'
-              << 100 * zone.deaths.value() << '\t' << 100 * zone.oneRound.value() << '\t' << zone.lost.value() << '\n';
+              << 100 * zone.deaths.value() << '\t' << 100 * zone.oneRound.value() << '\t' << zone.lost.value() << '\t'
+              << all.usualArmour[static_cast<std::size_t>(&zone - all.zones.data())] << '\n';
   }
 }
 
@@ -83,7 +84,9 @@ void tryOut(const Setup& setup, const Shape& shape) {
   const DataFiles data = shaped(setup.data, shape);
   const Sample sample = playSample(data, setup.games, setup.threads, setup.seed);
   print(scoreOf(data, sample));
-  printZones(measure(sample.games));
+  const Measures all = measure(sample.games);
+  printZones(all);
+  for (const int monster : harmlessMonsters(Knowledge(data), all)) std::cout << "harmless: " << monster + 1 << '\n';
 }
 
 Score play(const Setup& setup, const Shape& shape, std::uint64_t seed) {
@@ -106,7 +109,7 @@ void writeFiles(const DataFiles& data, const fs::path& folder) {
 CmaEs begin(const fs::path& state, const Shape& start, std::uint64_t seed) {
   std::ifstream in(state);
   if (in) return CmaEs(in);
-  constexpr double kFirstStep = 0.8;
+  constexpr double kFirstStep = 0.4;
   return CmaEs(pointOf(start), kFirstStep, seed);
 }
 

@@ -6,6 +6,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "fight/choices.h"
+#include "flow/text/code_page.h"
 #include "simulation/knowledge/knowledge.h"
 
 namespace brolgan::simulation {
@@ -31,9 +33,9 @@ constexpr int kLinesAMonster = 10;
 constexpr int kLinesAWeapon = 9;
 constexpr int kUntouched = 3;
 constexpr int kCourt = 41;  // the first of the king's court, counted from 0
-constexpr int kKing = kMonsters - 1;
+constexpr int kEnd = kMonsters - 1;
 constexpr int kLargestGroup = 12;
-constexpr int kMostFaces = 31;
+constexpr int kMostFaces = 61;
 constexpr int kCheap = 4;  // the price up to which a weapon is not dear
 
 constexpr std::array<double, 5> kFiveBands = {3, 12, 22, 31, 40};
@@ -86,16 +88,17 @@ void throwMean(Numbers& monster, int mean) {
   }
 }
 
-// How far a reward lies from just above a half, where rounding helps those who are paid once.
+// How far a reward lies from the upper half of a point, where rounding helps those who are paid once.
 double offHalf(double reward) {
-  constexpr double kAbove = 0.58;
+  constexpr double kLeast = 0.5;
+  constexpr double kMost = 0.95;
   const double part = reward - std::floor(reward);
-  return std::min(std::abs(part - kAbove), std::abs(part - kAbove + 1));
+  return part < kLeast ? std::min(kLeast - part, part + 1 - kMost) : std::max(0.0, part - kMost);
 }
 
 // The dice throw near what was asked, the addition makes up for the rest of the attack.
 void giveAttack(Numbers& monster, double total, double dice) {
-  constexpr int kReach = 2;
+  constexpr int kReach = 3;
   Numbers best = monster;
   double least = 10;
   for (int shift = -kReach; shift <= kReach; ++shift) {
@@ -111,10 +114,9 @@ void giveAttack(Numbers& monster, double total, double dice) {
   monster = best;
 }
 
-Numbers turned(Numbers monster, int place, const Shape& shape) {
+Numbers turned(Numbers monster, int place, bool king, const Shape& shape) {
   const bool group = monster.count > 1;
   if (place >= kCourt) {
-    const bool king = place == kKing;
     monster.life = std::max(1, whole(monster.life * std::exp(shape[king ? kKingLife : kCourtLife])));
     const double total = monster.mean() + monster.plus + shape[kCourtAttack];
     monster.plus = std::max(0, whole(total - monster.mean()));
@@ -145,14 +147,18 @@ void write(std::vector<std::string>& lines, std::size_t first, const Numbers& mo
 
 std::string shapedMonsters(const std::string& text, const Shape& shape) {
   auto lines = linesOf(text);
+  const std::string name = toCodePage(kLastMonster);
+  int king = kEnd;
   for (int place = kUntouched; place < kMonsters; ++place) {
     const auto first = static_cast<std::size_t>(1 + place * kLinesAMonster);
-    write(lines, first, turned(numbersOf(lines, first), place, shape));
+    const bool last = lines[first + 1] == name;
+    if (last) king = place;
+    write(lines, first, turned(numbersOf(lines, first), place, last, shape));
   }
   // The king changes places with one of his court.
-  const int place = kKing - std::clamp(whole(shape[kKingPlace]), 0, 2);
-  const auto king = lines.begin() + 1 + kKing * kLinesAMonster;
-  if (place != kKing) std::swap_ranges(king, king + kLinesAMonster, lines.begin() + 1 + place * kLinesAMonster);
+  const int place = std::clamp(king - whole(shape[kKingPlace]), kCourt, kEnd);
+  const auto lineOf = [&lines](int monster) { return lines.begin() + 1 + monster * kLinesAMonster; };
+  if (place != king) std::swap_ranges(lineOf(king), lineOf(king) + kLinesAMonster, lineOf(place));
   return textOf(lines);
 }
 
@@ -174,11 +180,11 @@ const std::array<Dial, kDials> kDialTable = {{
     {"life_4", 0.15, -0.3, 1.0},     {"life_13", 0.15, -0.3, 1.0},    {"life_23", 0.15, -0.3, 1.0},
     {"life_32", 0.15, -0.3, 1.0},    {"life_41", 0.15, -0.3, 1.0},    {"attack_4", 0.7, -3, 3},
     {"attack_13", 0.7, -4, 4},       {"attack_23", 0.7, -5, 5},       {"attack_32", 0.7, -6, 6},
-    {"attack_41", 0.7, -8, 8},       {"dice_13", 1.0, -3, 8},         {"dice_27", 1.0, -3, 8},
-    {"dice_41", 1.0, -3, 8},         {"armour_13", 0.7, -4, 3},       {"armour_27", 0.7, -5, 4},
-    {"armour_41", 0.7, -6, 5},       {"group_size", 0.12, -0.7, 0.5}, {"group_attack", 0.5, -3, 3},
+    {"attack_41", 0.7, -8, 8},       {"dice_13", 1.0, -3, 14},        {"dice_27", 1.0, -3, 14},
+    {"dice_41", 1.0, -3, 14},        {"armour_13", 0.7, -4, 3},       {"armour_27", 0.7, -5, 4},
+    {"armour_41", 0.7, -6, 5},       {"group_size", 0.12, -0.7, 0.5}, {"group_attack", 0.5, -3, 6},
     {"group_life", 0.15, -0.5, 1.0}, {"court_life", 0.12, -0.8, 0.4}, {"court_attack", 1.0, -12, 4},
-    {"king_life", 0.12, -0.5, 0.6},  {"king_place", 0.4, 0, 2},       {"dear_damage", 1.0, -3, 8},
+    {"king_life", 0.12, -0.5, 0.6},  {"king_place", 0.4, -2, 2},      {"dear_damage", 1.0, -3, 8},
     {"speed", 0.15, -0.4, 0.7},
 }};
 

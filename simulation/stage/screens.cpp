@@ -1,12 +1,13 @@
 #include "simulation/stage/screens.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "creation/creation.h"
-#include "fight/choices.h"
 #include "fight/fight.h"
 #include "flow/setup.h"
 #include "flow/text/number_text.h"
+#include "game/names/names.h"
 #include "preparation/preparation.h"
 #include "shop/shop.h"
 
@@ -21,8 +22,6 @@ std::size_t placeOf(const ControlTable& table, const std::string& fullName) {
   }
   throw std::out_of_range("no control " + fullName);
 }
-
-std::string member(const char* name, int index) { return std::string(name) + "(" + std::to_string(index) + ")"; }
 
 template <std::size_t Size>
 std::array<std::size_t, Size> members(const ControlTable& table, const char* name) {
@@ -253,15 +252,15 @@ int FightScreen::targetArmour() const { return number(fightPlaces(table()).armou
 
 bool FightScreen::fallen() const {
   const FightPlaces& places = fightPlaces(table());
-  return reachable(places.closeWound) && label(places.woundText).Caption == kDeath;
+  return reachable(places.closeWound) && label(places.woundText).Caption == verdicts::kDeath;
 }
 
 bool FightScreen::cleared() const {
   const std::string& text = label(fightPlaces(table()).report).Caption;
-  return text == "Czysto!" || won();
+  return text == verdicts::kGroupGone || won();
 }
 
-bool FightScreen::won() const { return label(fightPlaces(table()).report).Caption.starts_with("Wygrałeś"); }
+bool FightScreen::won() const { return label(fightPlaces(table()).report).Caption.starts_with(verdicts::kGameWon); }
 
 bool FightScreen::warned() const { return reachable(fightPlaces(table()).warning); }
 
@@ -277,7 +276,11 @@ int FightScreen::shownDamage() const {
   int sum = 0;
   int figure = 0;
   for (const char c : label(place).Caption) {
-    figure = c >= '0' && c <= '9' ? figure * 10 + (c - '0') : (sum += figure, 0);
+    if (c >= '0' && c <= '9') {
+      figure = figure * 10 + (c - '0');
+    } else {
+      sum += std::exchange(figure, 0);
+    }
   }
   return sum + figure;
 }

@@ -1,6 +1,8 @@
 // What the data files promise to players besides their balance.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "rules/weapons.h"
 #include "simulation/knowledge/knowledge.h"
 #include "simulation/report/study.h"

@@ -1,0 +1,82 @@
+// The search: its method, and the numbers that it turns.
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <stdexcept>
+#include <vector>
+
+#include "simulation/knowledge/knowledge.h"
+#include "simulation/search/cma_es.h"
+#include "simulation/search/shape.h"
+
+namespace brolgan::simulation {
+namespace {
+
+double valley(const std::vector<double>& point) {
+  double sum = 0;
+  for (std::size_t i = 0; i < point.size(); ++i) sum += (static_cast<double>(i) + 1) * (point[i] - 3) * (point[i] - 3);
+  return sum;
+}
+
+void advance(CmaEs& search) {
+  const auto points = search.ask();
+  std::vector<double> values;
+  for (const auto& point : points) values.push_back(valley(point));
+  search.tell(points, values);
+}
+
+TEST(Search, FindsTheLowestPointOfAValley) {
+  CmaEs search(std::vector<double>(6, 0), 1, 5);
+  for (int i = 0; i < 120; ++i) advance(search);
+  for (const double value : search.mean()) EXPECT_NEAR(value, 3, 0.01);
+}
+
+TEST(Search, GoesOnFromItsStateAsIfItHadNeverStopped) {
+  CmaEs search(std::vector<double>(4, 0), 1, 5);
+  for (int i = 0; i < 3; ++i) advance(search);
+  std::stringstream state;
+  search.save(state);
+  CmaEs other(state);
+  for (int i = 0; i < 3; ++i) {
+    advance(search);
+    advance(other);
+  }
+  EXPECT_EQ(search.mean(), other.mean());
+  EXPECT_EQ(search.generation(), other.generation());
+}
+
+TEST(Search, OfABrokenStateIsRefused) {
+  std::istringstream state("4 1 5");
+  EXPECT_THROW(CmaEs search(state), std::runtime_error);
+}
+
+DataFiles turnedBy(const char* dial, double value) {
+  Shape shape{};
+  shape[static_cast<std::size_t>(dialNamed(dial))] = value;
+  return shaped(loadData(BROLGAN_ASSETS), shape);
+}
+
+TEST(Search, KeepsNamesAndWeaponsWhenItTurnsTheMonsters) {
+  const DataFiles before = loadData(BROLGAN_ASSETS);
+  const DataFiles after = turnedBy("life_23", 0.5);
+  EXPECT_EQ(before.weapons, after.weapons);
+  const Knowledge one(before);
+  const Knowledge other(after);
+  ASSERT_EQ(one.monsters.size(), other.monsters.size());
+  for (std::size_t i = 0; i < one.monsters.size(); ++i) EXPECT_EQ(one.monsters[i].name, other.monsters[i].name);
+  EXPECT_GT(other.monsters[22].life, one.monsters[22].life);
+  EXPECT_EQ(other.monsters[0].life, one.monsters[0].life);
+}
+
+TEST(Search, ThrowsOnlyDiceWithAnOddNumberOfFaces) {
+  const Knowledge known(turnedBy("dice_27", 5));
+  for (const Monster& monster : known.monsters) {
+    EXPECT_EQ(monster.attack.high % 2, 1) << monster.name;
+    EXPECT_GE(monster.attack.plus, 0) << monster.name;
+  }
+}
+
+TEST(Search, KnowsItsDialsByName) { EXPECT_THROW(dialNamed("luck"), std::out_of_range); }
+
+}  // namespace
+}  // namespace brolgan::simulation
