@@ -1,4 +1,4 @@
-// The words by which the fight knows its spells, its supplies, the last monster and the hero's fall.
+// The words by which the fight knows its spells, its supplies and the last monster.
 #pragma once
 
 #include "rules/consumables.h"
@@ -13,8 +13,6 @@ inline constexpr const char* kLuckSpell = "Kaczy Fart";
 
 inline constexpr const char* kGrenadeItem = "Granat";
 inline constexpr const char* kAmmoItem = "Ammo";
-
-inline constexpr const char* kDeath = "Śmierć!";
 
 // The monster whose end is the end of the game.
 inline constexpr const char* kLastMonster = "Król Zagłady";

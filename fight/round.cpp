@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <vector>
 
-#include "fight/choices.h"
 #include "fight/fight.h"
 #include "flow/text/number_text.h"
 #include "game/names/names.h"
@@ -36,7 +35,7 @@ void Fight::NastTura_Click() {
   Rzuc.Enabled = true;
   Uzyj.Enabled = true;
   if (bohater.AktWytrzymalosc < 1) {
-    OpisDMG.Caption = kDeath;
+    OpisDMG.Caption = verdicts::kDeath;
     disableActions();
   }
   if (isClass(bohater.Klasa, kWizard)) regainMagic();
@@ -68,7 +67,7 @@ void Fight::suffer(Integer blow) {
   bohater.AktWytrzymalosc -= harm;
   if (bohater.AktWytrzymalosc >= 1) return;
   disableActions();
-  OpisDMG.Caption = kDeath;
+  OpisDMG.Caption = verdicts::kDeath;
 }
 
 // MEANT(silent-report): writes the report without showing its frame.
@@ -82,9 +81,9 @@ void Fight::Zabici() {
     Statystyki();
     return;
   }
-  OpisZad.Caption = "Czysto!";
+  OpisZad.Caption = verdicts::kGroupGone;
   if (group_.isLastOfTheGame()) {
-    OpisZad.Caption = "Wygrałeś - tura " + str(bohater.Tura);
+    OpisZad.Caption = verdicts::kGameWon + str(bohater.Tura);
     play(sounds::kVictory);
   }
   disableActions();

@@ -47,8 +47,14 @@ void FHero::listWeapons() {
 // MEANT(nameless-kill): a kill beyond the list shows an empty name.
 void FHero::listKills() {
   for (int i = 0; i < bohater.Stwory.size; ++i) {
-    if (bohater.Stwory(i) > 0) Stwory.AddItem(Potwory(i).Nazwa + " (" + decimal(bohater.Stwory(i)) + ")");
+    if (bohater.Stwory(i) <= 0) continue;
+    Stwory.AddItem(Potwory(i).Nazwa + " (" + decimal(bohater.Stwory(i)) + ")");
+    kills_.push_back(i);
   }
+}
+
+const std::string& FHero::pictureOfKill(int row) const {
+  return Potwory(kills_.at(static_cast<std::size_t>(row))).Obrazek;
 }
 
 void FHero::HeroClose_Click() {

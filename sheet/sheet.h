@@ -4,6 +4,8 @@
 #pragma once
 
 #include <array>
+#include <string>
+#include <vector>
 
 #include "flow/stage/runtime.h"
 #include "game/names/names.h"
@@ -19,6 +21,9 @@ class FHero : public Form {
   explicit FHero(Runtime& runtime);
 
   void Form_Load() override;
+
+  // The picture of the monster in a row of Stwory.
+  [[nodiscard]] const std::string& pictureOfKill(int row) const;
 
   Label Imie{"Kosiarz1"};
   Label klasa{"wojownik"};
@@ -46,6 +51,7 @@ class FHero : public Form {
   Bohater bohater;
   Catalogue<kShelfPlaces> katalog;
   Array<Potwor, kMonsterNumbers + 1> Potwory;
+  std::vector<int> kills_;  // the monster of each row
 };
 
 }  // namespace brolgan

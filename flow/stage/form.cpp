@@ -5,7 +5,9 @@
 
 namespace brolgan {
 
-std::string ControlEntry::fullName() const { return index < 0 ? name : name + "(" + std::to_string(index) + ")"; }
+std::string member(std::string_view name, int index) { return std::string(name) + "(" + std::to_string(index) + ")"; }
+
+std::string ControlEntry::fullName() const { return index < 0 ? name : member(name, index); }
 
 const ControlEntry& ControlTable::find(std::string_view fullName) const {
   const auto found = std::find_if(entries_.begin(), entries_.end(),

@@ -18,6 +18,9 @@ using ControlPointer = std::variant<Label*, TextBox*, CommandButton*, OptionButt
 
 class Form;
 
+// The name of a member of a control array: "PLUS(7)".
+std::string member(std::string_view name, int index);
+
 // One control of a form: "Imie", or "PLUS(7)" for a member of an array.
 struct ControlEntry {
   std::string name;

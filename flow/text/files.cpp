@@ -109,7 +109,7 @@ std::string Files::read(const std::string& name) {
 }
 
 OpenFile DiskFiles::open(const std::string& name) {
-  const fs::path path = pathOf(name);
+  const fs::path path = lookup_(name);
   if (!requireFile(path, name)) fail(ErrorCode::fileNotFound, name);
   Descriptor file(path, O_RDONLY);
   if (!file.isOpen()) fail(ErrorCode::pathAccess, name);

@@ -6,7 +6,9 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "flow/text/lookup.h"
 #include "flow/text/open_file.h"
 
 namespace brolgan {
@@ -31,12 +33,18 @@ class Files {
   std::string read(const std::string& name);
 };
 
-// Files below the working directory of the process.
+// Files below the working directory of the process; what is not there to be read is taken from the
+// installed data.
 class DiskFiles : public Files {
  public:
+  explicit DiskFiles(Lookup lookup = Lookup()) : lookup_(std::move(lookup)) {}
+
   OpenFile open(const std::string& name) override;
   void create(const std::string& name) override;
   void append(const std::string& name, std::string_view bytes) override;
+
+ private:
+  Lookup lookup_;
 };
 
 // Files that live in memory only: for tests and for the simulation.

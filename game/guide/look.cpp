@@ -22,6 +22,4 @@ bool isUsable(const ControlEntry& entry) { return isReachable(entry) && std::vis
 
 bool isUsable(Form& form, const std::string& name) { return isUsable(form.controls().find(name)); }
 
-std::string member(const char* name, int index) { return std::string(name) + "(" + std::to_string(index) + ")"; }
-
 }  // namespace brolgan::guide

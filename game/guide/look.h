@@ -18,7 +18,4 @@ const Control& get(Form& form, const std::string& name) {
 bool isUsable(const ControlEntry& entry);
 bool isUsable(Form& form, const std::string& name);
 
-// "PLUS(3)" for a member of a control array.
-std::string member(const char* name, int index);
-
 }  // namespace brolgan::guide

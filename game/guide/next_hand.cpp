@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 
+#include "flow/text/number_text.h"
 #include "game/guide/look.h"
 #include "game/names/names.h"
 #include "rules/weapons.h"
@@ -12,7 +13,6 @@ namespace {
 
 using guide::get;
 using guide::isUsable;
-using guide::member;
 
 constexpr int kPlayers = 4;
 
@@ -59,27 +59,26 @@ bool hasStaffInHand(Form& form) {
   return false;
 }
 
-bool hasFallen(Form& form) { return isUsable(form, "CloseDMG") && get<Label>(form, "OpisDMG").Caption == "Śmierć!"; }
+bool hasFallen(Form& form) {
+  return isUsable(form, "CloseDMG") && get<Label>(form, "OpisDMG").Caption == verdicts::kDeath;
+}
 
 // A blow is open; behind a spell only with a staff.
 bool canStrike(Form& form) {
   return isUsable(form, "Atak") && hasChosen(form, "Bron") && (isUsable(form, "Rzuc") || hasStaffInHand(form));
 }
 
-bool canCast(Form& form) { return isUsable(form, "Rzuc") && hasChosen(form, "Czar"); }
-
-std::string beginRound(Form& form, bool castLast) {
-  if (hasFallen(form)) return "CloseDMG";
-  if (castLast && canCast(form)) return "Rzuc";
-  if (canStrike(form)) return "Atak";
-  if (canCast(form)) return "Rzuc";
-  return isUsable(form, "Atak") ? "Bron" : "NastTura";
+// Whether the magic that the hero has pays for the chosen spell; what is typed may be no number.
+bool hasMagic(Form& form) {
+  const auto price = parseNumber(get<TextBox>(form, "mana").Text);
+  const auto magic = parseNumber(get<Label>(form, "Pstat(2)").Caption);
+  return price && magic && *price <= *magic;
 }
 
-std::string restOfRound(Form& form) {
-  if (hasFallen(form)) return "CloseDMG";
-  if (canStrike(form)) return "Atak";
-  return canCast(form) ? "Rzuc" : "NastTura";
+bool canCast(Form& form) { return isUsable(form, "Rzuc") && hasChosen(form, "Czar") && hasMagic(form); }
+
+bool canChoose(Form& form, const char* list) {
+  return get<ComboBox>(form, list).ListCount() > 0 && !hasChosen(form, list);
 }
 
 bool isTypedIn(Form& form, const std::string& name) {
@@ -94,22 +93,49 @@ std::string NextHand::begin(const std::string& screen, Form& form) {
   if (screen == screens::kPreparation) return beginPreparation(form);
   if (screen == screens::kFight) {
     castLast_ = false;
-    return beginRound(form, castLast_);
+    castsInVain_ = false;
+    return beginRound(form);
   }
   return firstUsable(form);
 }
 
 std::string NextHand::after(const std::string& screen, Form& form, const std::string& used,
                             const std::string& focused) {
-  if (screen == screens::kFight && (used == "Atak" || used == "Rzuc")) castLast_ = used == "Rzuc";
+  if (screen == screens::kFight) notice(form, used);
   const bool keeps = !focused.empty() && isUsable(form, focused);
   if (keeps && isTypedIn(form, focused)) return focused;
   if (screen == screens::kFight) {
-    if (used == "NastTura") return beginRound(form, castLast_);
+    if (used == "NastTura") return beginRound(form);
     if (used == "Uzyj" && hasFallen(form)) return "CloseDMG";
     return keeps ? focused : restOfRound(form);
   }
   return keeps ? focused : firstUsable(form);
+}
+
+// A spell that was cast closes its button for the round; one that a hero can pay for and that leaves the
+// button open is none of his.
+void NextHand::notice(Form& form, const std::string& used) {
+  if (used == "Atak") castLast_ = false;
+  if (used != "Rzuc") return;
+  castLast_ = !isUsable(form, "Rzuc");
+  castsInVain_ = !castLast_ && canCast(form);
+}
+
+std::string NextHand::beginRound(Form& form) const {
+  if (hasFallen(form)) return "CloseDMG";
+  const bool casts = canCast(form) && !castsInVain_;
+  if (castLast_ && casts) return "Rzuc";
+  if (canStrike(form)) return "Atak";
+  if (casts) return "Rzuc";
+  if (!isUsable(form, "Atak")) return "NastTura";
+  if (canChoose(form, "Bron")) return "Bron";
+  return canChoose(form, "Czar") ? "Czar" : "NastTura";
+}
+
+std::string NextHand::restOfRound(Form& form) const {
+  if (hasFallen(form)) return "CloseDMG";
+  if (canStrike(form)) return "Atak";
+  return canCast(form) && !castsInVain_ ? "Rzuc" : "NastTura";
 }
 
 std::string escapeControl(const std::string& screen, Form& form) {

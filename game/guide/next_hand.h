@@ -19,7 +19,12 @@ class NextHand {
   std::string after(const std::string& screen, Form& form, const std::string& used, const std::string& focused);
 
  private:
+  void notice(Form& form, const std::string& used);
+  [[nodiscard]] std::string beginRound(Form& form) const;
+  [[nodiscard]] std::string restOfRound(Form& form) const;
+
   bool castLast_ = false;
+  bool castsInVain_ = false;  // in this fight
 };
 
 // The control that Escape presses on a screen: what closes a report or the sheet. Empty when nothing

@@ -178,31 +178,15 @@ std::string spoken(const std::string& screen, const ControlEntry& entry) {
   return named(found->second, entry) + (isOwned ? ", masz" : "");
 }
 
+std::string spokenName(const std::string& screen, const ControlEntry& entry) {
+  const auto found = namesOf(screen).find(entry.fullName());
+  return found == namesOf(screen).end() ? std::string() : found->second;
+}
+
 bool isCheckable(const std::string& screen, const ControlEntry& entry) {
   return isDepartment(screen) && (entry.name == "Czarn" || entry.name == "Spec");
 }
 
 bool isChecked(const ControlEntry& entry) { return isRed(entry); }
-
-bool isAnnounced(const std::string& screen, const ControlEntry& entry) {
-  if (screen != screens::kFight) return false;
-  for (const char* const report : {"IleZad", "OpisZad", "IleDMG", "OpisDMG", "Uwaga"}) {
-    if (entry.name == report) return true;
-  }
-  return false;
-}
-
-bool isToldAnew(const std::string& screen, const std::string& used, const ControlEntry& entry) {
-  if (screen != screens::kFight) return false;
-  const bool dealt = entry.name == "IleZad" || entry.name == "OpisZad";
-  const bool taken = entry.name == "IleDMG" || entry.name == "OpisDMG";
-  return (used == "Atak" && dealt) || (used == "NastTura" && taken);
-}
-
-bool isGroupGone(const std::string& screen, Form& form) {
-  if (screen != screens::kFight) return false;
-  const std::string& verdict = guide::get<Label>(form, "OpisZad").Caption;
-  return verdict == "Czysto!" || verdict.starts_with("Wygrałeś");
-}
 
 }  // namespace brolgan

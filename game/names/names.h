@@ -1,6 +1,6 @@
-// Every name by which the game is known to what surrounds it: its eight screens, and the pictures
-// and sounds that it asks for by itself. What the data files name stands there. Names of text files
-// stand with the rules that read and write them.
+// Every name by which the game is known to what surrounds it: its eight screens, the pictures and
+// sounds that it asks for by itself, and the verdicts by which a fight tells its end. What the data
+// files name stands there. Names of text files stand with the rules that read and write them.
 #pragma once
 
 namespace brolgan {
@@ -46,5 +46,12 @@ inline constexpr const char* kAmmo = "specammo.wav";
 inline constexpr const char* kGrenade = "specgran.wav";
 inline constexpr const char* kVictory = "wygr.wav";
 }  // namespace sounds
+
+namespace verdicts {
+inline constexpr const char* kDeath = "Śmierć!";
+inline constexpr const char* kGroupGone = "Czysto!";
+// The number of the turn follows.
+inline constexpr const char* kGameWon = "Wygrałeś - tura ";
+}  // namespace verdicts
 
 }  // namespace brolgan

@@ -144,6 +144,101 @@ TEST(NextHand, AHeroWithoutAWeaponChosenChoosesOne) {
   EXPECT_EQ(fight.focus, "Bron");
 }
 
+Bohater staffBearer(const std::string& spell) {
+  Bohater hero = fighter("Laska");
+  hero.MaBronww(2) = true;
+  hero.OstatniCzar = spell;
+  return hero;
+}
+
+void rollStaff(World& world) {
+  world.roll(1, 4, {1});
+  world.roll(1, 6, {1});
+  world.roll(1, 120, {1});
+}
+
+TEST(NextHand, AStaffWithoutMagicLeftTakesTwoPressesToo) {
+  World world;
+  Bohater hero = staffBearer("BOOM!");
+  hero.AktMoc = 3;
+  setLongFight(world, hero);
+  Played fight(world, "Fight");
+  EXPECT_EQ(fight.focus, "Atak");
+  rollStaff(world);
+  fight.press();
+  EXPECT_EQ(fight.focus, "NastTura");
+}
+
+TEST(NextHand, ACastThatTheMagicDoesNotReachIsNoCast) {
+  World world;
+  Bohater hero = fighter("Nóż");
+  hero.OstatniCzar = "BOOM!";
+  hero.AktMoc = 3;
+  setLongFight(world, hero);
+  Played fight(world, "Fight");
+  fight.click("Rzuc");
+  rollHarmlessAnswer(world);
+  fight.click("NastTura");
+  fight.focus = "NastTura";
+  EXPECT_EQ(world.caption("Fight", "Pstat(2)"), "3");
+  EXPECT_TRUE(world.isEnabled("Fight", "Rzuc"));
+  rollHarmlessAnswer(world);
+  fight.press();
+  EXPECT_EQ(fight.focus, "Atak");
+}
+
+TEST(NextHand, ACasterWhoseMagicIsSpentStrikes) {
+  World world;
+  Bohater hero = fighter("Nóż");
+  hero.OstatniCzar = "Kaczy Fart";
+  hero.AktMoc = 4;
+  setLongFight(world, hero);
+  Played fight(world, "Fight");
+  fight.focus = "Rzuc";
+  fight.press();
+  EXPECT_EQ(world.caption("Fight", "Pstat(2)"), "0");
+  rollHarmlessAnswer(world);
+  fight.press();
+  EXPECT_EQ(fight.focus, "Atak");
+}
+
+TEST(NextHand, ABerserkerIsLedToHisSpellsNoMoreOnceOneDidNothing) {
+  World world;
+  Bohater hero = staffBearer("Kaczy Fart");
+  hero.Klasa = "Berserker";
+  setLongFight(world, hero);
+  Played fight(world, "Fight");
+  for (int blow = 0; blow < 2; ++blow) {
+    EXPECT_EQ(fight.focus, "Atak");
+    rollStaff(world);
+    fight.press();
+  }
+  fight.focus = "Rzuc";
+  fight.press();
+  rollHarmlessAnswer(world);
+  fight.click("NastTura");
+  fight.focus = "Atak";
+  for (int blow = 0; blow < 2; ++blow) {
+    rollStaff(world);
+    fight.press();
+  }
+  EXPECT_EQ(fight.focus, "NastTura");
+}
+
+TEST(NextHand, AHeroWithNothingToUseOnlyPassesRounds) {
+  World world;
+  Bohater hero = fighter("");
+  for (int i = 0; i < 10; ++i) hero.MaBronww(i) = hero.MaBronss(i) = false;
+  for (int i = 0; i < kSpells; ++i) hero.MaCzar(i) = false;
+  hero.Przedmioty(2) = 0;
+  setLongFight(world, hero);
+  Played fight(world, "Fight");
+  EXPECT_EQ(fight.focus, "NastTura");
+  rollHarmlessAnswer(world);
+  fight.press();
+  EXPECT_EQ(fight.focus, "NastTura");
+}
+
 TEST(NextHand, TheEndOfTheGroupLeadsToTheNextTurn) {
   World world;
   FightSetup setup = plainFight();

@@ -47,6 +47,16 @@ TEST_F(Spoken, TheDepartmentsSayStepsGoodsAndPrices) {
   EXPECT_EQ(say("CTmhero", "BSdmg"), "Obrażenia broni strzeleckiej: 0");
 }
 
+TEST_F(Spoken, TheNameAloneLeavesTheValueOut) {
+  setCreation(world, 12);
+  world.runtime.Show("CTmhero");
+  world.select("CTmhero", "LBronww", "Nóż");
+  const ControlEntry& weapons = world.form("CTmhero").controls().find("LBronww");
+  EXPECT_EQ(spoken("CTmhero", weapons), "Broń do walki wręcz: Nóż");
+  EXPECT_EQ(spokenName("CTmhero", weapons), "Broń do walki wręcz");
+  EXPECT_EQ(spokenName("CTmhero", world.form("CTmhero").controls().find("Label1")), "");
+}
+
 TEST_F(Spoken, TheShopSaysWhatIsLeft) {
   setShop(world, richHero());
   world.runtime.Show("CTsklep");
@@ -85,26 +95,6 @@ TEST_F(Spoken, GoodsBoughtByTheirNameAreCheckable) {
   EXPECT_TRUE(isCheckable("CTsklep", table.find("Spec(0)")));
   EXPECT_FALSE(isChecked(table.find("Spec(0)")));
   EXPECT_FALSE(isCheckable("CTsklep", table.find("stat1(0)")));
-}
-
-TEST_F(Spoken, ABlowOfTheSameStrengthIsNewsEachTime) {
-  setFight(world, richHero());
-  world.runtime.Show("Fight");
-  const auto& table = world.form("Fight").controls();
-  EXPECT_TRUE(isToldAnew("Fight", "Atak", table.find("IleZad")));
-  EXPECT_TRUE(isToldAnew("Fight", "NastTura", table.find("IleDMG")));
-  EXPECT_FALSE(isToldAnew("Fight", "Atak", table.find("IleDMG")));
-  EXPECT_FALSE(isToldAnew("Fight", "Rzuc", table.find("IleZad")));
-}
-
-TEST_F(Spoken, BlowsAndDeathsAreAnnounced) {
-  setFight(world, richHero());
-  world.runtime.Show("Fight");
-  const auto& table = world.form("Fight").controls();
-  for (const char* const report : {"IleZad", "OpisZad", "IleDMG", "OpisDMG", "Uwaga"}) {
-    EXPECT_TRUE(isAnnounced("Fight", table.find(report))) << report;
-  }
-  EXPECT_FALSE(isAnnounced("Fight", table.find("Pstat(0)")));
 }
 
 }  // namespace

@@ -70,7 +70,7 @@ TEST(CodePage, ALetterBeyondSixteenBitsIsOneQuestionMark) {
 }
 
 TEST(CodePage, CharactersOfTheControlRangeAreNotTheBytesOfTheirNumbers) {
-  EXPECT_EQ(toCodePage("\xC2\x81\xC2\x98"), "??");
+  EXPECT_EQ(toCodePage("\xC2\x80\xC2\x81\xC2\x98"), "???");
 }
 
 TEST(CodePage, MalformedTextBecomesQuestionMarksAndNothingIsReadBehindItsEnd) {
