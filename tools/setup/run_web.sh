@@ -1,0 +1,15 @@
+#!/bin/sh
+# Builds the game for a browser and serves it to this machine alone, until it is stopped. Installs nothing:
+# packages.txt tells what is needed behind the words play and web.
+set -eu
+command -v em++ >/dev/null || {
+  echo "The game for a browser needs emscripten; install it with: tools/setup/install.sh play web" >&2
+  exit 1
+}
+mkdir -p build
+cmake --preset web >build/run-web.log 2>&1 && cmake --build --preset web >>build/run-web.log 2>&1 || {
+  cat build/run-web.log
+  exit 1
+}
+echo "The game is at http://127.0.0.1:8080/ until you press Ctrl+C."
+exec python3 -m http.server 8080 --bind 127.0.0.1 --directory build/web/gra

@@ -1,0 +1,114 @@
+#!/usr/bin/env python3
+"""Makes one page of all screens: assemble.py OUT SIZES puts index.html and style.css into the folder OUT.
+
+In a screen an id is the name of a control. each="0..3" repeats an element, # being the number; picture="x.png"
+shows a picture of the game in the size that its place needs; SIZES tells how large each picture is."""
+import html
+import html.parser
+import json
+import pathlib
+import sys
+
+HERE = pathlib.Path(__file__).parent
+# The title lies behind; the sheet comes last, over the others.
+SCREENS = ["Brolgan", "Main", "CTmhero", "CTsklep", "Prefight", "Fight", "FHero"]
+VOID = {"img", "input", "source", "br"}
+
+
+class Tree(html.parser.HTMLParser):
+    """Elements as [tag, attributes, children]; texts as strings."""
+
+    def __init__(self, text):
+        super().__init__(convert_charrefs=True)
+        self.open = [["", {}, []]]
+        self.feed(text)
+        if len(self.open) != 1:
+            raise ValueError(f"<{self.open[-1][0]}> is not closed")
+        self.roots = self.open[0][2]
+
+    def handle_starttag(self, tag, attrs):
+        element = [tag, dict(attrs), []]
+        self.open[-1][2].append(element)
+        if tag not in VOID:
+            self.open.append(element)
+
+    def handle_endtag(self, tag):
+        if self.open[-1][0] != tag:
+            raise ValueError(f"</{tag}> closes <{self.open[-1][0]}> in line {self.getpos()[0]}")
+        self.open.pop()
+
+    def handle_data(self, data):
+        if data.strip():
+            self.open[-1][2].append(data.strip())
+
+
+def numbered(node, number):
+    if isinstance(node, str):
+        return node.replace("#", number)
+    tag, attrs, children = node
+    named = {name: value and value.replace("#", number) for name, value in attrs.items()}
+    return [tag, named, [numbered(child, number) for child in children]]
+
+
+def repeated(node):
+    """The element as often as its each says, its children likewise."""
+    if isinstance(node, str):
+        return [node]
+    tag, attrs, children = node
+    if "each" not in attrs:
+        return [[tag, attrs, [one for child in children for one in repeated(child)]]]
+    first, last = map(int, attrs["each"].split(".."))
+    plain = [tag, {name: value for name, value in attrs.items() if name != "each"}, children]
+    return [one for number in range(first, last + 1) for one in repeated(numbered(plain, str(number)))]
+
+
+def picture(attrs, sizes):
+    """A picture that the browser takes in the size and the format that suit it."""
+    attrs = dict(attrs)
+    name = attrs.pop("picture", None)
+    source, image = {"type": "image/webp", "sizes": attrs.get("sizes", "100vw")}, {"alt": "", "decoding": "async", **attrs}
+    if name:
+        stem, ending = name.rsplit(".", 1)
+        width, height = sizes[name]
+        both = lambda end: f"{stem}-s.{end} {round(width / 2)}w, {stem}.{end} {width}w"
+        source["srcset"] = both("webp")
+        image |= {"srcset": both(ending), "src": name, "width": str(width), "height": str(height)}
+    return ["picture", {}, [["source", source, []], ["img", image, []]]]
+
+
+def control(node, form, sizes):
+    """Ids with the name of their form, pictures with their sizes."""
+    if isinstance(node, str):
+        return node
+    tag, attrs, children = node
+    named = {name: f"{form}.{value}" if name in ("id", "for") and value not in (form, "anew") else value
+             for name, value in attrs.items()}
+    if tag == "img":
+        return picture(named, sizes)
+    return [tag, named, [control(child, form, sizes) for child in children]]
+
+
+def text_of(node):
+    if isinstance(node, str):
+        return html.escape(node, quote=False)
+    tag, attrs, children = node
+    words = "".join(f" {name}" if value is None else f' {name}="{html.escape(value)}"' for name, value in attrs.items())
+    inner = "".join(map(text_of, children))
+    return f"<{tag}{words}>" if tag in VOID else f"<{tag}{words}>{inner}</{tag}>\n"
+
+
+def screen(name, sizes):
+    roots = [one for root in Tree((HERE / "screens" / f"{name}.html").read_text("utf-8")).roots for one in repeated(root)]
+    return "".join(text_of(control(root, name, sizes)) for root in roots)
+
+
+def main():
+    out, sizes = pathlib.Path(sys.argv[1]), json.loads(pathlib.Path(sys.argv[2]).read_text("utf-8"))
+    shell = (HERE / "page.html").read_text("utf-8")
+    (out / "index.html").write_text(shell.replace("<!-- screens -->", "".join(screen(name, sizes) for name in SCREENS)), "utf-8")
+    sheets = [HERE / "page.css", HERE / "departments.css", *(HERE / "screens" / f"{name}.css" for name in SCREENS)]
+    (out / "style.css").write_text("".join(sheet.read_text("utf-8") for sheet in sheets), "utf-8")
+
+
+if __name__ == "__main__":
+    main()
