@@ -8,6 +8,7 @@
 
 #include "desktop/text.h"
 #include "desktop/widgets.h"
+#include "game/guide/news.h"
 #include "game/guide/spoken.h"
 
 namespace brolgan::desktop {

@@ -26,7 +26,7 @@ class Button : public QPushButton {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (isPress(*event) && event->key() != Qt::Key_Space) {
       click();
     } else {
       QPushButton::keyPressEvent(event);

@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QTimer>
 #include <cstdio>
 
 #include "desktop/access.h"
@@ -120,13 +119,17 @@ void Face::show(const std::string& name, Form& shown) {
   FormWindow& window = *windows_.at(name);
   const bool isFresh = window.form() != &shown;
   isFresh ? window.bind(shown) : window.mirrorAll();
-  if (window.isVisible() && !isFresh) return;
+  if (window.isVisible() && !isFresh) {
+    window.tellNews();
+    return;
+  }
   if (!window.isVisible()) places_.place(window, inTurn(&window));
   window.show();
   window.preparePictures();
   window.raise();
   window.activateWindow();
   window.focusOn(hands_[name].begin(name, shown));
+  window.tellNews();
 }
 
 // The screen that is in turn: what opens takes its place, or stands beside it.

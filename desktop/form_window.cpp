@@ -3,8 +3,6 @@
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QIcon>
-#include <QLabel>
 #include <QLayout>
 #include <QListWidget>
 #include <QPainter>
@@ -32,10 +30,6 @@ namespace {
 constexpr int kRestMs = 120;
 constexpr int kDecodeMs = 60;
 
-// The picture that answers a blow, and the report that tells of one.
-const QString kMonsterPicture = QStringLiteral("Potwór");
-const QString kBlowsDealt = QStringLiteral("IleZad");
-
 // By how much a page may be wider or higher than its unit asks for.
 constexpr qreal kMostStretch = 1.25;
 
@@ -56,6 +50,7 @@ class FormWindow::Page : public QWidget {
   [[nodiscard]] int heightForWidth(int width) const override { return layout()->totalMinimumHeightForWidth(width); }
   // A page that scrolls is as large as at the least unit.
   [[nodiscard]] QSize minimumSizeHint() const override {
+    if (window_.layoutOf().shrinks) return QWidget::minimumSizeHint();
     return QWidget::minimumSizeHint().expandedTo((QSizeF(window_.unit().size()) * Unit::kLeast).toSize());
   }
 
@@ -157,6 +152,7 @@ void FormWindow::addKeys(const Events& events) {
     if (key == '\0' || inOrder_[i] == nullptr) continue;
     inOrder_[i]->setProperty(kAccessKey, QString(QLatin1Char(key)));
     auto* const shortcut = new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(key)), this);
+    shortcut->setAutoRepeat(false);
     connect(shortcut, &QShortcut::activated, this, [this, i, events] { reach(i, events); });
   }
 }
@@ -170,6 +166,7 @@ void FormWindow::reach(std::size_t index, const Events& events) {
 
 void FormWindow::bind(Form& form) {
   form_ = &form;
+  news_ = {};
   for (QWidget* const widget : inOrder_) {
     if (auto* list = qobject_cast<QListWidget*>(widget)) {
       const QSignalBlocker quiet(list);
@@ -191,40 +188,29 @@ void FormWindow::mirrorAll() {
   tellAll();
 }
 
-// Names follow their values; a report is announced when it appears and when it changes.
+// Names follow their values, and the picture the fate of the group.
 void FormWindow::tellAll() {
   const auto& entries = form_->controls().entries();
   for (std::size_t i = 0; i < entries.size(); ++i) {
-    QWidget* const widget = inOrder_[i];
-    if (widget == nullptr) continue;
-    tell(name_, entries[i], *widget);
-    if (!isAnnounced(name_, entries[i])) continue;
-    const QString words = widget->isVisible() ? widget->property("text").toString() : QString();
-    if (!words.isEmpty() && announced_[widget] != words) {
-      announce(*widget);
-      stir(*widget);
-    }
-    announced_[widget] = words;
+    if (inOrder_[i] != nullptr) tell(name_, entries[i], *inOrder_[i]);
   }
-  for (auto* const picture : page().findChildren<PictureWidget*>(kMonsterPicture)) {
-    picture->setDimmed(isGroupGone(name_, *form_));
+  if (has(kMonsterPicture)) at<PictureWidget>(kMonsterPicture).setDimmed(isGroupGone(name_, *form_));
+}
+
+void FormWindow::tellNews() {
+  for (const std::string& report : news_.take(name_, *form_)) {
+    announce(at(report));
+    stir(report);
   }
 }
 
 // News is felt: its report comes in with a movement, and the monster answers a blow.
-void FormWindow::stir(QWidget& report) {
-  if (!isActiveWindow()) return;
-  slideIn(report);
-  if (report.objectName() != kBlowsDealt) return;
-  for (auto* const picture : page().findChildren<PictureWidget*>(kMonsterPicture)) flinch(*picture);
+void FormWindow::stir(const std::string& report) {
+  slideIn(at(report));
+  if (isBlowDealt(report)) flinch(at(kMonsterPicture));
 }
 
-void FormWindow::expectNews(const std::string& used) {
-  const auto& entries = form_->controls().entries();
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    if (isToldAnew(name_, used, entries[i])) announced_.erase(inOrder_[i]);
-  }
-}
+void FormWindow::expectNews(const std::string& used) { news_.expect(name_, *form_, used); }
 
 void FormWindow::leaveScreen() {
   forgetMouse();

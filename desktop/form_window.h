@@ -17,6 +17,7 @@
 #include "desktop/unit.h"
 #include "desktop/widgets.h"
 #include "flow/stage/form.h"
+#include "game/guide/news.h"
 
 namespace brolgan::desktop {
 
@@ -51,8 +52,10 @@ class FormWindow : public QScrollArea {
   void leaveScreen();
   // Begins to decode the pictures that are drawn next.
   void preparePictures();
-  // Has reports announced again, the same words included, that the use of a control makes news.
+  // A control is about to be used.
   void expectNews(const std::string& used);
+  // Announces what happened since the last call. Only what is on the screen can be told.
+  void tellNews();
   // Puts the keyboard on a control, unless it is there; nothing for an empty name.
   void focusOn(const std::string& control);
   // The control that the keyboard stands on, empty when there is none.
@@ -67,7 +70,7 @@ class FormWindow : public QScrollArea {
   [[nodiscard]] Widget& at(const std::string& fullName) const;
   template <class Widget = QWidget>
   [[nodiscard]] Widget& at(const std::string& name, int index) const {
-    return at<Widget>(name + "(" + std::to_string(index) + ")");
+    return at<Widget>(member(name, index));
   }
   [[nodiscard]] bool has(const std::string& fullName) const { return widgets_.contains(fullName); }
   [[nodiscard]] QWidget& page() const { return *widget(); }
@@ -94,7 +97,7 @@ class FormWindow : public QScrollArea {
   void addKeys(const Events& events);
   void reach(std::size_t index, const Events& events);
   void tellAll();
-  void stir(QWidget& report);
+  void stir(const std::string& report);
   void forgetMouse();
   void watchTips();
   void fit();
@@ -112,7 +115,7 @@ class FormWindow : public QScrollArea {
   TipLines tips_;
   std::map<std::string, QWidget*> widgets_;
   std::vector<QWidget*> inOrder_;
-  std::map<QWidget*, QString> announced_;  // what each report said last, empty while it is not seen
+  News news_;
   QString background_;
   QBasicTimer rest_;
   bool isDecoding_ = false;  // for the size at which the window has come to rest

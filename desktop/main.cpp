@@ -10,8 +10,10 @@
 #include "desktop/face.h"
 #include "desktop/layouts/layouts.h"
 #include "desktop/picture_store.h"
+#include "desktop/play_folder.h"
 #include "desktop/sound/machine_sounds.h"
 #include "desktop/system_clock.h"
+#include "desktop/text.h"
 #include "desktop/theme.h"
 #include "flow/text/files.h"
 #include "game/game.h"
@@ -25,29 +27,41 @@ constexpr std::array kLargeIcons = {"ikona-256.png", "ikona.png"};
 
 // The icon can wait until the first window stands; decoding it would hold that up. Every window hands all
 // sizes to the window manager, so the large ones are for dense screens alone.
-void setIconSoon(QApplication& application) {
-  QTimer::singleShot(250, &application, [&application] {
+void setIconSoon(QApplication& application, const brolgan::Lookup& lookup) {
+  QTimer::singleShot(250, &application, [&application, lookup] {
     QIcon icon;
-    for (const char* file : kIcons) icon.addFile(file);
+    for (const char* file : kIcons) icon.addFile(brolgan::desktop::toQt(lookup(file)));
     if (application.devicePixelRatio() > 1) {
-      for (const char* file : kLargeIcons) icon.addFile(file);
+      for (const char* file : kLargeIcons) icon.addFile(brolgan::desktop::toQt(lookup(file)));
     }
     QApplication::setWindowIcon(icon);
+    brolgan::desktop::PictureStore::giveMemoryBack();
   });
+}
+
+// A failure on the way shows in the colours of the game.
+brolgan::Lookup placeOf(brolgan::desktop::Application& application) {
+  try {
+    return brolgan::desktop::goToPlay();
+  } catch (...) {
+    brolgan::desktop::theme::apply(application);
+    throw;
+  }
 }
 
 // The game from its first window to its end; answers the exit code of the program.
 int play(brolgan::desktop::Application& application) {
   using namespace brolgan;
   desktop::PictureStore::keepMemorySmall();
-  desktop::PictureStore pictures;
+  const Lookup lookup = placeOf(application);
+  desktop::PictureStore pictures(lookup);
   desktop::prepareTitle(pictures, application.devicePixelRatio());
   desktop::theme::apply(application);
 
-  DiskFiles files;
+  DiskFiles files(lookup);
   SeededRandom random;
   desktop::SystemClock clock;
-  desktop::MachineSounds sounds;
+  desktop::MachineSounds sounds(lookup);
   Runtime runtime({files, clock, pictures, sounds});
   offerScreens(runtime, random);
 
@@ -55,7 +69,7 @@ int play(brolgan::desktop::Application& application) {
   application.onThrown = [&face](const std::exception_ptr& error) { face.fail(error); };
   QMetaObject::invokeMethod(
       &application, [&face] { face.start(); }, Qt::QueuedConnection);
-  setIconSoon(application);
+  setIconSoon(application, lookup);
   const int result = QApplication::exec();
   application.onThrown = nullptr;
   // A sound server that hangs must not keep the program from ending.
@@ -69,7 +83,8 @@ int main(int argc, char* argv[]) {
   using namespace brolgan;
   desktop::Application application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  QApplication::setCursorFlashTime(0);  // A blinking cursor would wake an idle program twice a second.
+  QApplication::setDesktopFileName("brolgan");  // Under this name a desktop finds the icon of the windows.
+  QApplication::setCursorFlashTime(0);          // A blinking cursor would wake an idle program twice a second.
   try {
     return play(application);
   } catch (...) {

@@ -5,7 +5,9 @@
 #include <QBuffer>
 #include <QByteArray>
 #include <QImageReader>
+#include <chrono>
 #include <system_error>
+#include <utility>
 
 #include "desktop/picture_file.h"
 #include "desktop/text.h"
@@ -16,10 +18,10 @@ namespace brolgan::desktop {
 
 namespace {
 
+using namespace std::chrono_literals;
+
 constexpr int kLargeBlock = 128 * 1024;
 constexpr int kCacheKilobytes = 8 * 1024;
-
-QString pathOf(QString name) { return name.replace('\\', '/'); }
 
 QString keyOf(const QString& name, QSize box, Qt::AspectRatioMode mode) {
   return QString("%1 %2x%3 %4").arg(name).arg(box.width()).arg(box.height()).arg(mode);
@@ -45,7 +47,7 @@ QImage decode(const QString& path, QSize box, Qt::AspectRatioMode mode) {
 
 }  // namespace
 
-PictureStore::PictureStore() : cache_(kCacheKilobytes) {}
+PictureStore::PictureStore(Lookup lookup) : lookup_(std::move(lookup)), cache_(kCacheKilobytes) {}
 
 void PictureStore::keepMemorySmall() {
   mallopt(M_MMAP_THRESHOLD, kLargeBlock);
@@ -53,15 +55,23 @@ void PictureStore::keepMemorySmall() {
   mallopt(M_ARENA_MAX, 1);
 }
 
+void PictureStore::giveMemoryBack() { malloc_trim(0); }
+
 void PictureStore::load(const std::string& name) {
-  const std::string bytes = DiskFiles().read(name);
+  const std::string bytes = DiskFiles(lookup_).read(name);
   if (!holdsPicture(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())))) failOn(name);
   loaded_.insert(toQt(name));
 }
 
+QString PictureStore::pathOf(const QString& name) const { return toQt(lookup_(name.toStdString())); }
+
 void PictureStore::prepare(const QString& name, QSize box, Qt::AspectRatioMode mode) {
   const QString key = keyOf(name, box, mode);
   if (name.isEmpty() || box.isEmpty() || cache_.contains(key) || prepared_.contains(key)) return;
+  // A size that was prepared and never drawn is not wanted any more.
+  std::erase_if(prepared_, [&name](const auto& one) {
+    return one.first.startsWith(name + ' ') && one.second.wait_for(0s) == std::future_status::ready;
+  });
   try {
     prepared_[key] = std::async(std::launch::async, decode, pathOf(name), box, mode);
   } catch (const std::system_error&) {  // There is no thread to be had; pixmap() decodes it then.

@@ -1,4 +1,4 @@
-// The game's pictures from files in the working directory. Each is decoded once for the size at
+// The game's pictures from files in the working directory or the installed data. Each is decoded once for the size at
 // which it is shown, straight to that size.
 #pragma once
 
@@ -11,16 +11,20 @@
 #include <set>
 
 #include "flow/stage/outside.h"
+#include "flow/text/lookup.h"
 
 namespace brolgan::desktop {
 
 class PictureStore : public Pictures {
  public:
-  PictureStore();
+  explicit PictureStore(Lookup lookup = Lookup());
 
   // Has the program keep little memory: pictures are large blocks, so each gets memory of its own, which
   // goes back as soon as it is free, and the threads that decode share one heap. Once, at its start.
   static void keepMemorySmall();
+
+  // Gives back what memory is free in between what is used. Takes about a millisecond.
+  static void giveMemoryBack();
 
   // Raises the errors of a file that cannot be read, and invalidPicture when it is no picture or only
   // the beginning of one. A JPEG or PNG file is looked through from end to end but not decoded, which
@@ -36,6 +40,9 @@ class PictureStore : public Pictures {
   QPixmap pixmap(const QString& name, QSize box, Qt::AspectRatioMode mode = Qt::KeepAspectRatio);
 
  private:
+  [[nodiscard]] QString pathOf(const QString& name) const;
+
+  Lookup lookup_;
   std::set<QString> loaded_;
   std::map<QString, std::future<QImage>> prepared_;
   QCache<QString, QPixmap> cache_;

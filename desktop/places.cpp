@@ -100,6 +100,7 @@ void Places::place(FormWindow& window, const FormWindow* before) {
   window.setGeometry(stood != nullptr ? kept(stood->place, room)
                                       : firstPlace(window.layoutOf().place, size, room, before));
   if (stood != nullptr) window.setWindowState(stood->state);
+  if (window.layoutOf().place == Place::beside) besides_[window.name()] = window.geometry();
 }
 
 void Places::remember(const FormWindow& window) {
@@ -108,20 +109,19 @@ void Places::remember(const FormWindow& window) {
   const Stood stood{large == 0 || normal.isEmpty() ? window.geometry() : normal, large};
   if (window.layoutOf().takesTurns()) {
     turn_ = stood;
-  } else {
+  } else if (window.layoutOf().place != Place::beside || large != 0 || stood.place != besides_[window.name()]) {
     own_[window.name()] = stood;
   }
 }
 
 void Places::rescue(FormWindow& window) {
-  const QPoint centre = window.geometry().center();
-  for (const QScreen* const screen : QGuiApplication::screens()) {
-    if (screen->geometry().contains(centre)) return;
-  }
-  QScreen& screen = *QGuiApplication::primaryScreen();
-  const QRect room = roomOn(screen);
-  const QSize size = window.size().boundedTo((QSizeF(window.unit().size()) * unitOn(screen)).toSize());
-  window.setGeometry(kept(around(room.center(), size), room));
+  const QScreen* screen = QGuiApplication::screenAt(window.geometry().center());
+  if (screen == nullptr) screen = QGuiApplication::primaryScreen();
+  const QRect room = roomOn(*screen);
+  if (room.contains(window.geometry()) || window.isMaximized() || window.isFullScreen()) return;
+  const QSize size = window.size().boundedTo((QSizeF(window.unit().size()) * unitOn(*screen)).toSize());
+  const bool isInSight = screen->geometry().contains(window.geometry().center());
+  window.setGeometry(kept(isInSight ? QRect(window.pos(), size) : around(room.center(), size), room));
 }
 
 }  // namespace brolgan::desktop

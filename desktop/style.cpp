@@ -38,9 +38,10 @@ constexpr int kArrowWidth = 16;
 constexpr QSize kArrow(9, 5);
 
 // A panel with a title leaves room above for half of the title's plate.
-constexpr int kPlateAbove = 12;
+constexpr int kPlateAbove = 16;
 constexpr int kPlateIndent = 12;
 constexpr int kPlatePadding = 8;
+constexpr int kBandIndent = 12;
 
 constexpr int kBadgeEdge = 3;
 constexpr int kTipMargin = 12;
@@ -98,11 +99,20 @@ QMargins buttonEdge(const QStyleOption& option, const QWidget* widget) {
   return isFlat ? kEvenEdge : kRaisedEdge;
 }
 
-QColor buttonFace(const QStyleOption& option) {
+// The face of a button that is neither pressed nor in focus.
+QColor faceAtRest(const QWidget* widget, bool isUnderMouse) {
+  if (is(widget, kIsPrimary)) return isUnderMouse ? theme::kPrimaryHover : theme::kPrimary;
+  if (isUnderMouse) return theme::kButtonHover;
+  const QVariant tint = widget == nullptr ? QVariant() : widget->property(kTint);
+  return tint.isValid() ? tint.value<QColor>() : theme::kButton;
+}
+
+// The button that leads on keeps its face in focus.
+QColor buttonFace(const QStyleOption& option, const QWidget* widget) {
   if (!has(option, QStyle::State_Enabled)) return theme::kDisabledFace;
   if (has(option, QStyle::State_Sunken)) return theme::kPressedFace;
-  if (has(option, QStyle::State_HasFocus)) return theme::kFocusFace;
-  return has(option, QStyle::State_MouseOver) ? theme::kButtonHover : theme::kButton;
+  if (has(option, QStyle::State_HasFocus) && !is(widget, kIsPrimary)) return theme::kFocusFace;
+  return faceAtRest(widget, has(option, QStyle::State_MouseOver));
 }
 
 QColor edgeColour(const QStyleOption& option, const QColor& atRest) {
@@ -113,7 +123,7 @@ QColor edgeColour(const QStyleOption& option, const QColor& atRest) {
 void drawButtonBox(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
   const Lengths length(widget);
   draw(painter, option.rect,
-       {buttonFace(option), edgeColour(option, theme::kInk), length.of(buttonEdge(option, widget)),
+       {buttonFace(option, widget), edgeColour(option, theme::kInk), length.of(buttonEdge(option, widget)),
         length.of(kButtonRadius)});
 }
 
@@ -136,30 +146,23 @@ void drawField(const QStyleOption& option, QPainter& painter, const QWidget* wid
         length.of(has(option, QStyle::State_HasFocus) ? kFieldRing : kEvenEdge), length.of(kFieldRadius)});
 }
 
-// The letter that reaches a widget together with Alt, small in its lower right corner.
-void drawKey(QPainter& painter, const QRect& place, const QWidget* widget, const QPalette& palette) {
-  const QString key = widget == nullptr ? QString() : widget->property(kAccessKey).toString();
-  if (key.isEmpty()) return;
-  const Lengths length(widget);
-  QFont font = widget->font();
-  font.setBold(false);
-  font.setPixelSize(std::max(8, length.of(kKeySize)));
-  painter.save();
-  painter.setFont(font);
-  painter.setPen(widget->isEnabled() ? theme::kFieldEdge : palette.color(QPalette::Disabled, QPalette::ButtonText));
-  painter.drawText(place.marginsRemoved(length.of(kKeyMargins)), Qt::AlignRight | Qt::AlignBottom, key);
-  painter.restore();
-}
-
 // A field of many lines: a frame around what scrolls in it.
 bool isLargeField(const QWidget* widget) {
   const auto* const area = qobject_cast<const QAbstractScrollArea*>(widget);
   return area != nullptr && area->frameShape() == QFrame::StyledPanel;
 }
 
+QVariant bandOf(const QWidget* widget) { return widget == nullptr ? QVariant() : widget->property(kBand); }
+
 void drawPanel(QPainter& painter, const QRect& place, const QWidget* widget) {
   const Lengths length(widget);
   draw(painter, place, {theme::kPanel, theme::kInk, length.of(kEvenEdge), length.of(kPanelRadius)});
+  const QVariant colour = bandOf(widget);
+  if (!colour.isValid()) return;
+  const QRect inside = place.marginsRemoved(length.of(kEvenEdge));
+  const QRect band(inside.topLeft(), QSize(inside.width(), length.of(kBandHeight)));
+  painter.fillRect(band, colour.value<QColor>());
+  painter.fillRect(QRect(band.left(), band.bottom() + 1, band.width(), length.of(kEdge)), theme::kInk);
 }
 
 void drawBadge(QPainter& painter, const QRect& place, const QWidget* widget) {
@@ -216,9 +219,12 @@ bool isLength(QStyle::PixelMetric metric) {
   }
 }
 
+// A panel's title is set like the headings within panels.
 QFont titleFont(const QWidget* widget) {
-  QFont font = widget == nullptr ? QFont() : widget->font();
-  font.setBold(true);
+  const QFont words = widget == nullptr ? QFont() : widget->font();
+  const qreal larger = theme::sizeOf(theme::Type::heading) / theme::sizeOf(theme::Type::text);
+  QFont font = theme::typeface(theme::Type::heading);
+  font.setPixelSize(qRound(QFontInfo(words).pixelSize() * larger));
   return font;
 }
 
@@ -226,6 +232,11 @@ QFont titleFont(const QWidget* widget) {
 QRect titleRect(const QStyleOptionGroupBox& option, const QWidget* widget) {
   const Lengths length(widget);
   const QFontMetrics metrics(titleFont(widget));
+  if (bandOf(widget).isValid()) {
+    const QRect band(option.rect.topLeft() + length.of(QPoint(kBandIndent, kEdge)),
+                     QSize(metrics.horizontalAdvance(option.text), length.of(kBandHeight)));
+    return band;
+  }
   const QPoint corner = length.of(QPoint(kPlateIndent + kEdge + kPlatePadding, kEdge));
   return {option.rect.topLeft() + corner, QSize(metrics.horizontalAdvance(option.text), metrics.height())};
 }
@@ -233,7 +244,8 @@ QRect titleRect(const QStyleOptionGroupBox& option, const QWidget* widget) {
 QRect groupBoxPart(const QStyleOptionGroupBox& option, QStyle::SubControl part, const QWidget* widget) {
   const Lengths length(widget);
   if (part == QStyle::SC_GroupBoxLabel) return titleRect(option, widget);
-  const QRect frame = option.rect.adjusted(0, length.of(kPlateAbove), 0, 0);
+  const int above = bandOf(widget).isValid() ? 0 : length.of(kPlateAbove);
+  const QRect frame = option.rect.adjusted(0, above, 0, 0);
   return part == QStyle::SC_GroupBoxContents ? frame.marginsRemoved(length.of(kEvenEdge)) : frame;
 }
 
@@ -250,6 +262,24 @@ QRect comboBoxPart(const QRect& place, QStyle::SubControl part, const QWidget* w
 }
 
 }  // namespace
+
+QFont keyFont(const QWidget& widget) {
+  QFont font = widget.font();
+  font.setBold(false);
+  font.setPixelSize(std::max(qRound(Unit::kSmallestText), Lengths(&widget).of(kKeySize)));
+  return font;
+}
+
+void drawKey(QPainter& painter, const QRect& place, const QWidget* widget, const QPalette& palette) {
+  const QString key = widget == nullptr ? QString() : widget->property(kAccessKey).toString();
+  if (key.isEmpty()) return;
+  const Lengths length(widget);
+  painter.save();
+  painter.setFont(keyFont(*widget));
+  painter.setPen(widget->isEnabled() ? theme::kFieldEdge : palette.color(QPalette::Disabled, QPalette::ButtonText));
+  painter.drawText(place.marginsRemoved(length.of(kKeyMargins)), Qt::AlignRight | Qt::AlignBottom, key);
+  painter.restore();
+}
 
 // What scrolls lies on the face of its field, which changes with the focus.
 void Style::polish(QWidget* widget) {
@@ -319,13 +349,16 @@ void Style::drawGroupBox(const QStyleOptionGroupBox& option, QPainter& painter, 
   drawPanel(painter, proxy()->subControlRect(CC_GroupBox, &option, SC_GroupBoxFrame, widget), widget);
   if (option.text.isEmpty()) return;
   const QRect title = proxy()->subControlRect(CC_GroupBox, &option, SC_GroupBoxLabel, widget);
-  const Lengths length(widget);
-  const QMargins edge = length.of(kEvenEdge);
-  const QMargins around = length.of(QMargins(kPlatePadding, 0, kPlatePadding, 0));
-  draw(painter, title.marginsAdded(edge + around), {theme::kPanel, theme::kInk, edge, length.of(kPlateRadius)});
+  const bool isInBand = bandOf(widget).isValid();
+  if (!isInBand) {
+    const Lengths length(widget);
+    const QMargins edge = length.of(kEvenEdge);
+    const QMargins around = length.of(QMargins(kPlatePadding, 0, kPlatePadding, 0));
+    draw(painter, title.marginsAdded(edge + around), {theme::kPanel, theme::kInk, edge, length.of(kPlateRadius)});
+  }
   painter.setFont(titleFont(widget));
   proxy()->drawItemText(&painter, title, Qt::AlignCenter, option.palette, has(option, State_Enabled), option.text,
-                        QPalette::WindowText);
+                        isInBand ? QPalette::BrightText : QPalette::WindowText);
 }
 
 void Style::drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, const QWidget* widget) const {
@@ -333,7 +366,9 @@ void Style::drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, 
   QStyleOption arrow = option;
   arrow.rect = proxy()->subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget);
   proxy()->drawPrimitive(PE_IndicatorArrowDown, &arrow, &painter, widget);
-  drawKey(painter, option.rect, widget, option.palette);
+  QRect besideArrow = option.rect;
+  besideArrow.setRight(arrow.rect.left() + Lengths(widget).of(kKeyMargins).right());
+  drawKey(painter, besideArrow, widget, option.palette);
 }
 
 QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {
@@ -379,7 +414,7 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     case CT_ComboBox:
       return contents.grownBy(length.of(kFieldMargins)) + QSize(length.of(kArrowWidth + kEdge), 0);
     case CT_GroupBox:
-      return contents.grownBy(length.of(kEvenEdge)) + QSize(0, length.of(kPlateAbove));
+      return contents.grownBy(length.of(kEvenEdge)) + QSize(0, bandOf(widget).isValid() ? 0 : length.of(kPlateAbove));
     case CT_ItemViewItem: {
       // Tall enough for capitals with accents.
       const int height = (widget == nullptr ? 0 : widget->fontMetrics().lineSpacing()) + length.of(kRowSpacing);

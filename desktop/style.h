@@ -16,6 +16,16 @@ inline constexpr const char* kIsPanel = "panel";        // A frame around a grou
 inline constexpr const char* kIsBold = "bold";          // Words that are bold in every colour.
 inline constexpr const char* kAccessKey = "accessKey";  // The letter that reaches it with Alt.
 inline constexpr const char* kIsBadge = "badge";        // A round plate with a figure.
+inline constexpr const char* kIsPrimary = "primary";    // The button that leads on.
+inline constexpr const char* kTint = "tint";            // The colour of the face of a button at rest.
+inline constexpr const char* kBand = "band";            // The colour of the band that heads a panel.
+// The height of that band, in units.
+inline constexpr int kBandHeight = 32;
+
+// The type of the letter that reaches a widget together with Alt.
+QFont keyFont(const QWidget& widget);
+// Draws the letter that reaches a widget together with Alt, small in the lower right corner of a place.
+void drawKey(QPainter& painter, const QRect& place, const QWidget* widget, const QPalette& palette);
 
 class Style : public QProxyStyle {
  public:

@@ -11,6 +11,8 @@ namespace brolgan::desktop {
 
 namespace {
 
+// Words that do not fit are set smaller by that much of their size, at least by that many pixels.
+constexpr qreal kShareOfStep = 1.0 / 32;
 constexpr qreal kStep = 0.5;
 // Of a line of the smallest type, to its size.
 constexpr qreal kLineHeight = 1.5;
@@ -95,7 +97,7 @@ TextLabel::Set TextLabel::set() const {
   const auto shrink = [&](QTextOption::WrapMode mode) {
     qreal pixels = font().pointSizeF() / pointsAPixel;
     while (!fits(words) && pixels > Unit::kSmallestText) {
-      pixels = std::max(Unit::kSmallestText, pixels - kStep);
+      pixels = std::max(Unit::kSmallestText, pixels - std::max(kStep, pixels * kShareOfStep));
       smaller.setPointSizeF(pixels * pointsAPixel);
       words = set(smaller, mode);
     }

@@ -1,6 +1,7 @@
 #include "desktop/theme.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QFrame>
 #include <QLabel>
 #include <QPalette>
@@ -41,6 +42,7 @@ QPalette palette() {
   colours.setColor(QPalette::BrightText, kButtonHover);
   colours.setColor(QPalette::Base, kPlate);
   colours.setColor(QPalette::AlternateBase, kPanel);
+  colours.setColor(QPalette::PlaceholderText, kDisabledText);
   colours.setColor(QPalette::Highlight, kSelection);
   colours.setColor(QPalette::HighlightedText, Qt::white);
   colours.setColor(QPalette::ToolTipBase, kButtonHover);
@@ -111,7 +113,7 @@ qreal sizeOf(Type type) {
     case Type::title:
       return 29;
     case Type::blow:
-      return 40;
+      return 80;
   }
   return 14;
 }
@@ -136,5 +138,16 @@ void makeBadge(QLabel& label) {
 }
 
 void makeNarrow(QWidget& button) { button.setProperty(kIsNarrow, true); }
+
+// A group box works its room out anew when it is told of another style.
+void makeBanded(QWidget& frame, const QColor& band) {
+  frame.setProperty(kBand, band);
+  QEvent change(QEvent::StyleChange);
+  QCoreApplication::sendEvent(&frame, &change);
+}
+
+void makeTinted(QWidget& button, const QColor& tint) { button.setProperty(kTint, tint); }
+
+void makePrimary(QWidget& button) { button.setProperty(kIsPrimary, true); }
 
 }  // namespace brolgan::desktop::theme

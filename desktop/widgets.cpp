@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "desktop/picture_store.h"
+#include "desktop/style.h"
 #include "desktop/theme.h"
 #include "desktop/unit.h"
 
@@ -23,6 +24,7 @@ constexpr qreal kFaint = 0.4;
 
 constexpr int kTipWidth = 420;
 constexpr int kPictureButton = 48;
+constexpr qreal kLetterPlate = 13;
 
 // The device pixels of an area of a widget.
 QSize pixelsOf(const QWidget& widget, QRect area) {
@@ -30,6 +32,11 @@ QSize pixelsOf(const QWidget& widget, QRect area) {
 }
 
 }  // namespace
+
+bool isPress(const QKeyEvent& event) {
+  const auto keys = {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter};
+  return !event.isAutoRepeat() && std::find(keys.begin(), keys.end(), event.key()) != keys.end();
+}
 
 QString TipLines::broken(const QString& text, const QFont& font, int width) {
   const QFontMetrics metrics(font);
@@ -87,7 +94,7 @@ void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ClickLabel::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+  if (isPress(*event)) {
     click_();
   } else {
     QLabel::keyPressEvent(event);
@@ -198,7 +205,7 @@ QSize PictureButton::sizeHint() const {
 }
 
 void PictureButton::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+  if (isPress(*event) && event->key() != Qt::Key_Space) {
     click();
   } else {
     QAbstractButton::keyPressEvent(event);
@@ -215,13 +222,30 @@ void PictureButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const bool lit = isEnabled() && (underMouse() || isDown());
+  const QColor inFocus = property(kIsPrimary).toBool() ? theme::kPrimary : theme::kFocusFace;
   painter.setPen(QPen(hasFocus() ? theme::kFocus : theme::kInk, (hasFocus() ? 4 : 1.5) * unit));
-  painter.setBrush(hasFocus() ? theme::kFocusFace : lit ? theme::kButtonHover : theme::kButton);
+  painter.setBrush(hasFocus() ? inFocus : lit ? theme::kButtonHover : theme::kButton);
   painter.drawRoundedRect(QRectF(rect()).adjusted(2 * unit, 2 * unit, -2 * unit, -2 * unit), 5 * unit, 5 * unit);
   painter.end();
   const int inset = Unit::pixels(this, 6);
   picture_.draw(*this,
                 rect().marginsRemoved({inset, inset, inset, inset}).translated(isDown() ? QPoint(1, 1) : QPoint()));
+  drawLetter();
+}
+
+// On a plate of its own, so that it can be read whatever the picture.
+void PictureButton::drawLetter() {
+  if (property(kAccessKey).toString().isEmpty()) return;
+  const qreal unit = Unit::of(this);
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(theme::kPlate);
+  const QSizeF plate = QSizeF(kLetterPlate, kLetterPlate) * std::max(1.0, unit);
+  painter.drawRoundedRect(
+      QRectF(QPointF(width() - plate.width(), height() - plate.height()) - QPointF(3, 3) * unit, plate), 3 * unit,
+      3 * unit);
+  drawKey(painter, rect(), this, palette());
 }
 
 }  // namespace brolgan::desktop

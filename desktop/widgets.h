@@ -9,11 +9,16 @@
 #include <QRadioButton>
 #include <functional>
 
+class QKeyEvent;
 class QPainter;
 
 namespace brolgan::desktop {
 
 class PictureStore;
+
+// Whether a key presses what the keyboard stands on. A key that is held down presses once, so that it does
+// not go on in the next screen.
+bool isPress(const QKeyEvent& event);
 
 // An option that can be clicked on its whole row.
 class OptionRow : public QRadioButton {
@@ -147,6 +152,8 @@ class PictureButton : public QAbstractButton {
   void hideEvent(QHideEvent* event) override;
 
  private:
+  void drawLetter();
+
   Picture picture_;
 };
 

@@ -2,6 +2,8 @@
 // gear at the right.
 #include <QLineEdit>
 #include <QRadioButton>
+#include <array>
+#include <vector>
 
 #include "desktop/layouts/departments.h"
 #include "desktop/layouts/grid.h"
@@ -14,19 +16,69 @@ namespace {
 
 constexpr WeaponHeadings kHeadings = {{0, 1, 2, 3}, {4, 5, 6, 7}};
 
+constexpr std::array<const char*, kClasses> kEmblems = {"klasa-1.png", "klasa-2.png", "klasa-3.png", "klasa-4.png",
+                                                        "klasa-5.png", "klasa-6.png", "klasa-7.png", "klasa-8.png",
+                                                        "klasa-9.png", "klasa-10.png"};
+constexpr int kEmblem = 104;
+
+// The emblem of the class in hand.
+class ClassEmblem : public PictureWidget {
+ public:
+  ClassEmblem(FormWindow& window, QWidget* parent) : PictureWidget(window.pictures(), parent) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    for (int i = 0; i < kClasses; ++i) {
+      auto& option = window.at<QRadioButton>("Klasa", i);
+      options_.push_back(&option);
+      connect(&option, &QRadioButton::toggled, this, [this] { update(); });
+    }
+  }
+
+ protected:
+  // A fresh hero brings his class without a word; what is checked is asked for when it is drawn.
+  void paintEvent(QPaintEvent* event) override {
+    for (std::size_t i = 0; i < options_.size(); ++i) {
+      if (options_[i]->isChecked()) setName(kEmblems.at(i));
+    }
+    PictureWidget::paintEvent(event);
+  }
+
+ private:
+  std::vector<QRadioButton*> options_;
+};
+
+// The emblem stands beside the first classes, whose names are short.
 QWidget* classes(FormWindow& window) {
   QWidget& frame = window.at("Frame6");
-  auto* column = within<QVBoxLayout>(window, frame, {12, 8, 12, 8}, 6);
-  column->addWidget(&label(window, "Label14", Type::heading));
-  for (int i = 0; i < kClasses; ++i) column->addWidget(&window.at<QRadioButton>("Klasa", i));
+  auto& grid = *within<QGridLayout>(window, frame, {12, 7, 12, 7}, 5);
+  grid.addWidget(&label(window, "Label14", Type::heading), 0, 0);
+  for (int i = 0; i < kClasses; ++i) {
+    auto& option = window.at<QRadioButton>("Klasa", i);
+    option.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+    grid.addWidget(&option, i + 1, 0);
+    window.unit().row(grid, i + 1, 21);
+    grid.setRowStretch(i + 1, 1);
+  }
+  auto* const emblem = new ClassEmblem(window, &frame);
+  window.unit().fixed(*emblem, kEmblem, kEmblem);
+  window.pictures().prepare(kEmblems.front(), (QSizeF(emblem->minimumSize()) * window.devicePixelRatioF()).toSize());
+  grid.addWidget(emblem, 0, 0, kClasses + 1, 1, Qt::AlignRight | Qt::AlignTop);
   return &frame;
+}
+
+QWidget* advice(FormWindow& window) {
+  auto& words = alignTop(window.at<QLabel>("Label15"));
+  words.setWordWrap(true);
+  QFrame* const frame = panel(window);
+  within<QVBoxLayout>(window, *frame, {12, 6, 12, 6}, 0)->addWidget(&words);
+  return frame;
 }
 
 QWidget* saving(FormWindow& window) {
   QWidget& frame = window.at("Frame5");
   auto* row = within<QHBoxLayout>(window, frame, {12, 8, 12, 8}, 6);
   auto& save = window.at<QPushButton>("Save");
-  window.unit().atLeast(save, 96, 36);
+  theme::makePrimary(save);
+  window.unit().atLeast(save, 96, 40);
   row->addWidget(&label(window, "Label4(3)", Type::heading));
   row->addWidget(&save);
   return &frame;
@@ -35,33 +87,36 @@ QWidget* saving(FormWindow& window) {
 QHBoxLayout* budget(FormWindow& window) {
   auto* row = bare<QHBoxLayout>(window, 8);
   row->addWidget(&label(window, "Label2", Type::heading));
-  QLabel& points = figure(window, "Ile_jeszcze", Type::bigFigure);
-  points.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  row->addWidget(&points, 1);
+  row->addStretch();
+  row->addWidget(&points(window));
   return row;
 }
 
 QVBoxLayout* person(FormWindow& window) {
-  auto* column = bare<QVBoxLayout>(window, 8);
-  auto& rules = alignTop(window.at<QLabel>("Label15"));
-  rules.setWordWrap(true);
+  auto* column = bare<QVBoxLayout>(window, 7);
   column->addWidget(&label(window, "Label1", Type::title));
   column->addWidget(&window.at<QLineEdit>("Imie"));
   column->addLayout(budget(window));
-  column->addWidget(classes(window));
-  column->addWidget(&rules, 1);
+  column->addWidget(classes(window), 1);
+  column->addWidget(advice(window));
   column->addWidget(saving(window));
   return column;
 }
 
-QHBoxLayout* trades(FormWindow& window) {
-  auto* row = bare<QHBoxLayout>(window, 8);
-  for (int i = 0; i < 3; ++i) {
-    auto& picture = window.at<PictureWidget>("pics", i);
-    window.unit().atLeast(picture, 64, 64);
-    row->addWidget(&picture, 1);
-  }
-  return row;
+// A department and its picture, where its controls leave room: at the edges that the alignment names, so
+// far from them.
+QGridLayout* withPicture(FormWindow& window, const char* department, int picture, int side, Qt::Alignment alignment,
+                         const QMargins& margins) {
+  auto& found = window.at<PictureWidget>("pics", picture);
+  window.unit().fixed(found, side, side);
+  auto* aside = bare<QVBoxLayout>(window, 0);
+  window.unit().margins(*aside, margins);
+  aside->addWidget(&found);
+  auto* place = bare<QGridLayout>(window, 0);
+  place->addWidget(&window.at(department), 0, 0);
+  place->addLayout(aside, 0, 0, alignment);
+  found.raise();
+  return place;
 }
 
 }  // namespace
@@ -73,11 +128,10 @@ void layOutCreation(FormWindow& window) {
   layOutGear(window);
   auto* middle = bare<QVBoxLayout>(window, 10);
   middle->addWidget(&window.at("fstat"));
-  middle->addWidget(&window.at("fbron"), 1);
+  middle->addLayout(withPicture(window, "fbron", 0, 46, Qt::AlignRight | Qt::AlignTop, {0, 8, 14, 0}), 1);
   auto* right = bare<QVBoxLayout>(window, 10);
-  right->addWidget(&window.at("fczar"));
-  right->addWidget(&window.at("Frame4"));
-  right->addLayout(trades(window), 1);
+  right->addLayout(withPicture(window, "fczar", 1, 96, Qt::AlignRight | Qt::AlignBottom, {0, 0, 14, 10}), 3);
+  right->addLayout(withPicture(window, "Frame4", 2, 66, Qt::AlignLeft | Qt::AlignBottom, {84, 0, 0, 10}), 1);
   auto* left = new QWidget(&window.page());
   left->setLayout(person(window));
   window.unit().fixed(*left, 280, 0);

@@ -1,6 +1,8 @@
 #include "desktop/layouts/departments.h"
 
+#include <QItemSelectionModel>
 #include <QListWidget>
+#include <vector>
 
 #include "desktop/layouts/grid.h"
 #include "rules/development.h"
@@ -57,6 +59,19 @@ struct Desk {
   const char* sell;
 };
 
+// What stands in the details of a weapon while none is chosen is paler than what is said of one.
+void paleWithoutChoice(const QListWidget& list, const std::vector<QLabel*>& details) {
+  const auto tell = [&list, details] {
+    const bool isChosen = !list.selectedItems().isEmpty();
+    for (QLabel* const detail : details) {
+      detail->setForegroundRole(isChosen ? QPalette::WindowText : QPalette::PlaceholderText);
+    }
+  };
+  QObject::connect(list.selectionModel(), &QItemSelectionModel::selectionChanged, &list, tell);
+  QObject::connect(list.model(), &QAbstractItemModel::modelReset, &list, tell);
+  tell();
+}
+
 constexpr Desk kMelee = {0, "LBronww", {"BWnazwa", "BWdmg", "BWcena", "BWopis"}, "Kupww", "Sprzedajww"};
 constexpr Desk kRanged = {1, "Lbronss", {"BSnazwa", "BSdmg", "BScena", "BSopis"}, "Kupss", "Sprzedajss"};
 
@@ -70,13 +85,16 @@ void layOutDesk(FormWindow& window, QGridLayout& grid, int column, const Desk& d
   // A list would like a height that is told in pixels; it takes what is left.
   list.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
   grid.addWidget(&list, 2, column, 1, 2);
+  std::vector<QLabel*> details;
   for (std::size_t i = 0; i < headings.size(); ++i) {
     const int row = 3 + static_cast<int>(i);
     QLabel& value = alignTop(window.at<QLabel>(desk.details[i]));
     value.setWordWrap(true);
+    details.push_back(&value);
     grid.addWidget(&alignTop(window.at<QLabel>("Label6", headings[i])), row, column);
     grid.addWidget(&value, row, column + 1);
   }
+  paleWithoutChoice(list, details);
   window.unit().atLeast(window.at(desk.details.back()), 0, 36);
   auto* buttons = bare<QHBoxLayout>(window);
   buttons->addWidget(&window.at<QPushButton>(desk.buy));
@@ -96,6 +114,7 @@ void layOutStatistics(FormWindow& window) {
     addLadder(window, grid, i + 1, i);
     addCurrent(window, grid, i + 1, i);
     window.unit().row(grid, i + 1, 27);
+    if (i % 2 == 0) addStripe(grid, i + 1, kCurrentColumn + 1);
   }
   grid.setColumnStretch(kCurrentColumn, 1);
 }
@@ -127,6 +146,7 @@ void layOutSpells(FormWindow& window) {
     grid.addWidget(&alignCentre(window.at<QLabel>("czarc", i)), i + 2, 1);
     grid.addWidget(&effect, i + 2, 2);
     window.unit().row(grid, i + 2, 24);
+    if (i % 2 == 0) addStripe(grid, i + 2, 3);
   }
   int row = kSpells + 2;
   window.unit().row(grid, row++, 3);

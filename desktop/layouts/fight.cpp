@@ -37,10 +37,11 @@ struct Report {
   const char* blows;
   const char* verdict;
   const char* close;
+  const QColor& band;
 };
 
-constexpr Report kDealt = {"FZad", "Picture2", "Label4", "IleZad", "OpisZad", "CloseZad"};
-constexpr Report kTaken = {"FDamage", "Picture1", "Label3", "IleDMG", "OpisDMG", "CloseDMG"};
+const Report kDealt = {"FZad", "Picture2", "Label4", "IleZad", "OpisZad", "CloseZad", theme::kDealt};
+const Report kTaken = {"FDamage", "Picture1", "Label3", "IleDMG", "OpisDMG", "CloseDMG", theme::kTaken};
 
 // Words that keep to their place, however many there are.
 QLabel& words(FormWindow& window, const char* name, Type type, Qt::Alignment alignment) {
@@ -52,21 +53,25 @@ QLabel& words(FormWindow& window, const char* name, Type type, Qt::Alignment ali
   return found;
 }
 
-// The picture at the left; heading, blows and verdict under each other beside it.
+// The heading in its band; below it the picture over the button that closes the report, and the blows
+// over the verdict.
 void layOutReport(FormWindow& window, const Report& report) {
   QWidget& frame = window.at(report.frame);
-  QGridLayout& grid = *gridIn(window, frame, 12, 6);
+  theme::makeBanded(frame, report.band);
+  auto& grid = *within<QGridLayout>(window, frame, {10, 0, 10, 8}, 4);
+  window.unit().spacing(grid, 10, 4);
   auto& picture = window.at<PictureWidget>(report.picture);
   auto& close = window.at<PictureButton>(report.close);
+  TextLabel& heading = label(window, report.heading, Type::heading);
+  heading.setForegroundRole(QPalette::BrightText);
+  window.unit().fixed(heading, 0, kBandHeight);
   window.unit().fixed(picture, 96, 96);
-  window.unit().fixed(close, 44, 44);
-  window.unit().spacing(grid, 10, 4);
-  window.unit().row(grid, 2, 48);
-  grid.addWidget(&picture, 0, 0, 3, 1);
-  grid.addWidget(&label(window, report.heading, Type::heading), 0, 1);
-  grid.addWidget(&close, 0, 2, Qt::AlignRight | Qt::AlignTop);
-  grid.addWidget(&words(window, report.blows, Type::blow, Qt::AlignVCenter), 1, 1, 1, 2);
-  grid.addWidget(&words(window, report.verdict, Type::heading, Qt::AlignTop), 2, 1, 1, 2);
+  window.unit().fixed(close, 96, 56);
+  grid.addWidget(&heading, 0, 1);
+  grid.addWidget(&picture, 1, 0, Qt::AlignCenter);
+  grid.addWidget(&words(window, report.blows, Type::blow, Qt::AlignVCenter), 1, 1);
+  grid.addWidget(&close, 2, 0);
+  grid.addWidget(&words(window, report.verdict, Type::heading, Qt::AlignVCenter), 2, 1);
   grid.setColumnStretch(1, 1);
   grid.setRowStretch(1, 1);
   keepRoom(frame);
@@ -103,6 +108,8 @@ QVBoxLayout* figuresOfBoth(FormWindow& window) {
 QVBoxLayout* reports(FormWindow& window) {
   layOutReport(window, kDealt);
   layOutReport(window, kTaken);
+  // Death puts the keyboard there, and what is to be done next lights up.
+  theme::makePrimary(window.at(kTaken.close));
   QLabel& warning = words(window, "Uwaga", Type::heading, Qt::AlignVCenter);
   warning.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   window.unit().fixed(warning, 0, kHead);

@@ -91,6 +91,27 @@ inline void keepRoom(QWidget& widget) {
   widget.setSizePolicy(policy);
 }
 
+// A lighter row behind the widgets of a grid, for the eye to follow.
+inline void addStripe(QGridLayout& grid, int row, int columns) {
+  auto* stripe = new QWidget;
+  QPalette colours;
+  colours.setColor(QPalette::Window, theme::kStripe);
+  stripe->setPalette(colours);
+  stripe->setAutoFillBackground(true);
+  grid.addWidget(stripe, row, 0, 1, columns);
+  stripe->lower();
+}
+
+// The points that are left to spend, as a badge.
+inline QLabel& points(FormWindow& window) {
+  TextLabel& found = label(window, "Ile_jeszcze", Type::bigFigure);
+  found.keepToRoom();
+  theme::makeBadge(found);
+  window.unit().fixed(found, 72, 48);
+  alignCentre(found);
+  return found;
+}
+
 inline void makeBold(QWidget& widget) {
   widget.setProperty(kIsBold, true);
   QFont font = widget.font();
@@ -108,6 +129,5 @@ inline QWidget* decoration(FormWindow& window, const QString& picture, QSize siz
 }
 
 // "PLUS(3)" for a member of a control array.
-inline std::string member(const char* name, int index) { return std::string(name) + "(" + std::to_string(index) + ")"; }
 
 }  // namespace brolgan::desktop

@@ -31,6 +31,8 @@ struct ScreenLayout {
   std::vector<const char*> keptClear = {};
   // Controls of the form that are never seen.
   std::vector<const char*> unseen = {};
+  // Whether the page shrinks with a window that is too small, rather than scroll.
+  bool shrinks = false;
 
   // Screens that take turns stand in each other's place and share one size.
   [[nodiscard]] bool takesTurns() const { return place == Place::turn; }

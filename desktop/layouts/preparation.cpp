@@ -1,4 +1,5 @@
-// The preparation: the monster's card at the left, the hero and what he may still do at the right.
+// The preparation, in the frame of the fight: the monster at the left; its figures beside those of the hero,
+// and what he may still do, at the right.
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -10,60 +11,69 @@ namespace brolgan::desktop {
 
 namespace {
 
+constexpr int kRow = 30;
+// The plate of a title that stands above its panel.
+constexpr int kPlate = 16;
+constexpr QMargins kWithin(14, 18, 14, 10);
+
+// A name beside its value, in a row of their own.
 void addFigure(FormWindow& window, QGridLayout& grid, int row, const std::string& heading, const std::string& value,
-               int column = 0, Type type = Type::bigFigure) {
-  grid.addWidget(&window.at<QLabel>(heading), row, column);
-  grid.addWidget(&figure(window, value, type), row, column + 1);
+               Type type = Type::bigFigure) {
+  grid.addWidget(&window.at<QLabel>(heading), row, 0);
+  grid.addWidget(&figure(window, value, type), row, 1);
+  window.unit().row(grid, row, kRow);
 }
 
-// The monster's card: name, picture and figures.
+// The monster in a frame of its own, as in the fight.
+QFrame* portrait(FormWindow& window) {
+  QFrame* const frame = panel(window);
+  auto& picture = window.at<PictureWidget>("Potwór");
+  window.unit().fixed(picture, kMonster, kMonster);
+  gridIn(window, *frame, 0, 0)->addWidget(&picture, 0, 0);
+  return frame;
+}
+
+// The monster's name over its figures.
 QFrame* monster(FormWindow& window) {
   QFrame* const card = panel(window);
-  auto* column = within<QVBoxLayout>(window, *card, {12, 8, 12, 14}, 10);
+  auto* column = within<QVBoxLayout>(window, *card, {14, 8, 14, 10}, 2);
   TextLabel& name = label(window, "Moname", Type::title);
   name.setWordWrap(true);
   name.keepToRoom();
-  alignCentre(name);
-  auto& picture = window.at<PictureWidget>("Potwór");
-  window.unit().fixed(picture, kMonster, kMonster);
-  auto* grid = bare<QGridLayout>(window, 8);
-  for (int i = 0; i < 4; ++i) addFigure(window, *grid, i % 2, member("Label2", i), member("Monstat", i), i < 2 ? 0 : 3);
-  window.unit().column(*grid, 2, 48);
+  name.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  window.unit().atLeast(name, 0, 2 * kRow);
+  auto* grid = bare<QGridLayout>(window, 2);
+  for (int i = 0; i < 4; ++i) addFigure(window, *grid, i, member("Label2", i), member("Monstat", i));
   grid->setColumnStretch(0, 1);
-  grid->setColumnStretch(3, 1);
+  window.unit().column(*grid, 1, 76);
   column->addWidget(&name, 1);
-  column->addWidget(&picture, 0, Qt::AlignCenter);
   column->addLayout(grid);
   return card;
 }
 
-constexpr int kRow = 33;
-
 QWidget* hero(FormWindow& window) {
   QWidget& box = window.at("Statystyki");
-  QGridLayout& grid = *gridIn(window, box, 14, 2);
+  QGridLayout& grid = *within<QGridLayout>(window, box, kWithin, 2);
   // What the hero has at most is smaller than what he has now.
   for (int i = 0; i < 5; ++i) {
-    addFigure(window, grid, i, member("label4", i), member("stat", i), 0, Type::figure);
+    addFigure(window, grid, i, member("label4", i), member("stat", i), Type::figure);
   }
   addFigure(window, grid, 5, "label4(5)", "Inic");
-  for (int row = 0; row < 6; ++row) window.unit().row(grid, row, kRow);
   for (int i = 0; i < 2; ++i) {
     grid.addWidget(&figure(window, member("cur", i), Type::bigFigure), i == 0 ? 0 : 2, 2);
   }
   QLabel& snuff = figure(window, "tabak", Type::bigFigure);
   keepRoom(snuff);
   grid.addWidget(&snuff, 1, 2);
-  window.unit().column(grid, 0, 140);
-  window.unit().column(grid, 1, 76);
-  window.unit().column(grid, 2, 76);
+  window.unit().column(grid, 1, 60);
+  window.unit().column(grid, 2, 60);
   grid.setColumnStretch(0, 1);
   return &box;
 }
 
 QWidget* items(FormWindow& window) {
   QWidget& box = window.at("Frame2");
-  auto* row = within<QHBoxLayout>(window, box, {14, 14, 14, 14}, 6);
+  auto* row = within<QHBoxLayout>(window, box, kWithin, 6);
   auto& list = window.at<QComboBox>("Przedmioty");
   auto& use = window.at<QPushButton>("Uzyj");
   window.unit().atLeast(list, 160, 34);
@@ -75,7 +85,7 @@ QWidget* items(FormWindow& window) {
 
 QWidget* spells(FormWindow& window) {
   QWidget& box = window.at("Frame1");
-  QGridLayout& grid = *gridIn(window, box, 14, 6);
+  QGridLayout& grid = *within<QGridLayout>(window, box, kWithin, 6);
   auto& list = window.at<QComboBox>("Czary");
   auto& cost = window.at<QLineEdit>("Koszt");
   auto& cast = window.at<QPushButton>("Rzuc");
@@ -87,61 +97,63 @@ QWidget* spells(FormWindow& window) {
   grid.addWidget(&cost, 1, 1);
   grid.addWidget(&cast, 1, 2);
   grid.addWidget(&window.at<QLabel>("KosztInfo"), 2, 0, 1, 3);
+  window.unit().row(grid, 2, 19);
   grid.setColumnStretch(0, 1);
   return &box;
 }
 
 QWidget* notes(FormWindow& window) {
   QWidget& box = window.at("Frame3");
-  auto* column = within<QVBoxLayout>(window, box, {14, 14, 14, 14}, 6);
+  auto* column = within<QVBoxLayout>(window, box, kWithin, 6);
   auto& text = window.at<QPlainTextEdit>("historia");
-  window.unit().atLeast(text, 0, 84);
+  window.unit().atLeast(text, 0, 56);
   column->addWidget(&text);
   return &box;
 }
 
-QHBoxLayout* head(FormWindow& window) {
-  auto* row = bare<QHBoxLayout>(window, 12);
+// The way to the sheet and what is to be done, over the monster.
+QVBoxLayout* scene(FormWindow& window) {
   auto& sheet = window.at<PictureButton>("Heroshow");
   window.unit().fixed(sheet, 64, 64);
-  row->addWidget(&label(window, "Label1", Type::title));
-  row->addStretch();
-  row->addWidget(&sheet);
-  return row;
+  auto* head = bare<QHBoxLayout>(window, 14);
+  head->addWidget(&sheet);
+  head->addWidget(&label(window, "Label1", Type::title), 1);
+  auto* column = bare<QVBoxLayout>(window, 8);
+  column->addLayout(head, 1);
+  column->addWidget(portrait(window));
+  return column;
 }
 
-// The hero beside what he may use and cast.
-QHBoxLayout* chances(FormWindow& window) {
-  auto* right = bare<QVBoxLayout>(window, 10);
-  right->addWidget(items(window));
-  right->addWidget(spells(window), 1);
-  auto* row = bare<QHBoxLayout>(window, 20);
-  row->addWidget(hero(window), 1);
-  row->addLayout(right, 1);
-  return row;
-}
-
-QHBoxLayout* foot(FormWindow& window) {
-  auto* row = bare<QHBoxLayout>(window);
+// The monster beside the hero, what he may use beside what he may cast, the notes beside the way on.
+QGridLayout* chances(FormWindow& window) {
   auto& end = window.at<QPushButton>("Zakoncz");
   setType(window, end, Type::heading);
-  window.unit().atLeast(end, 220, 56);
-  row->addStretch();
-  row->addWidget(&end);
-  return row;
+  theme::makePrimary(end);
+  window.unit().atLeast(end, 0, 60);
+  auto* grid = bare<QGridLayout>(window, 10);
+  window.unit().spacing(*grid, 14, 8);
+  auto* beside = bare<QVBoxLayout>(window, 0);
+  window.unit().margins(*beside, {0, kPlate, 0, 0});
+  beside->addWidget(monster(window));
+  grid->addLayout(beside, 0, 0);
+  grid->addWidget(hero(window), 0, 1);
+  grid->addWidget(items(window), 1, 0);
+  grid->addWidget(spells(window), 1, 1);
+  grid->addWidget(notes(window), 2, 0, 1, 2);
+  grid->addWidget(&end, 3, 1);
+  grid->setRowStretch(2, 1);
+  grid->setColumnStretch(0, 1);
+  grid->setColumnStretch(1, 1);
+  return grid;
 }
 
 }  // namespace
 
 void layOutPreparation(FormWindow& window) {
-  auto* right = bare<QVBoxLayout>(window, 12);
-  right->addLayout(head(window));
-  right->addLayout(chances(window));
-  right->addWidget(notes(window), 1);
-  right->addLayout(foot(window));
-  auto* columns = within<QHBoxLayout>(window, window.page(), {16, 14, 16, 14}, 20);
-  columns->addWidget(monster(window));
-  columns->addLayout(right, 1);
+  window.setBackground("walka.jpg");
+  auto* columns = within<QHBoxLayout>(window, window.page(), {66, 56, 66, 54}, 14);
+  columns->addLayout(scene(window));
+  columns->addLayout(chances(window), 1);
 }
 
 }  // namespace brolgan::desktop

@@ -1,5 +1,8 @@
-// The set-up: one row a player, the starting points, and the start.
+// The set-up: a shield and a column a player, the starting points, and the start.
+#include "flow/setup.h"
+
 #include <QLineEdit>
+#include <array>
 
 #include "desktop/layouts/grid.h"
 #include "desktop/layouts/layouts.h"
@@ -8,22 +11,44 @@ namespace brolgan::desktop {
 
 namespace {
 
+constexpr std::array kShields = {"tarcza-1.png", "tarcza-2.png", "tarcza-3.png", "tarcza-4.png"};
+constexpr QSize kShield(110, 124);
+constexpr int kBoss = 36;
+
+// The shield of a player; the mark that he takes part stands on its boss.
+QGridLayout* shield(FormWindow& window, int player) {
+  auto* place = bare<QGridLayout>(window, 0);
+  place->addWidget(decoration(window, kShields.at(static_cast<std::size_t>(player)), kShield), 0, 0, Qt::AlignCenter);
+  QLabel& mark = alignCentre(label(window, member("Czygra", player), Type::bigFigure));
+  window.unit().fixed(mark, kBoss, kBoss);
+  place->addWidget(&mark, 0, 0, Qt::AlignCenter);
+  mark.raise();
+  return place;
+}
+
+// A column a player.
 QGridLayout* players(FormWindow& window) {
   auto* grid = bare<QGridLayout>(window, 8);
-  grid->addWidget(&label(window, "Label1", Type::title), 0, 0, 1, 2);
-  grid->addWidget(&alignCentre(label(window, "Label4", Type::heading)), 0, 2);
-  for (int i = 0; i < 4; ++i) {
+  window.unit().spacing(*grid, 20, 8);
+  for (int i = 0; i < Main::kPlayers; ++i) {
     auto& file = window.at<QLineEdit>("gracz", i);
     auto& create = window.at<QPushButton>("GraczM", i);
-    window.unit().atLeast(file, 240, 32);
-    window.unit().atLeast(create, 110, 34);
-    grid->addWidget(&file, i + 1, 0);
-    grid->addWidget(&create, i + 1, 1);
-    grid->addWidget(&alignCentre(label(window, member("Czygra", i), Type::bigFigure)), i + 1, 2);
+    window.unit().atLeast(file, 0, 32);
+    window.unit().atLeast(create, 110, 36);
+    grid->addLayout(shield(window, i), 0, i);
+    grid->addWidget(&file, 1, i);
+    grid->addWidget(&create, 2, i);
+    grid->setColumnStretch(i, 1);
   }
-  grid->setColumnStretch(0, 1);
-  window.unit().column(*grid, 2, 110);
   return grid;
+}
+
+QHBoxLayout* head(FormWindow& window) {
+  auto* row = bare<QHBoxLayout>(window, 12);
+  row->addWidget(&label(window, "Label1", Type::title));
+  row->addStretch();
+  row->addWidget(&label(window, "Label4", Type::heading));
+  return row;
 }
 
 QHBoxLayout* start(FormWindow& window) {
@@ -32,7 +57,8 @@ QHBoxLayout* start(FormWindow& window) {
   auto& button = window.at<QPushButton>("Start");
   setType(window, button, Type::heading);
   window.unit().fixed(points, 96, 34);
-  window.unit().atLeast(button, 160, 44);
+  theme::makePrimary(button);
+  window.unit().atLeast(button, 200, 52);
   row->addWidget(&label(window, "Label2", Type::heading));
   row->addWidget(&points);
   row->addStretch();
@@ -43,15 +69,11 @@ QHBoxLayout* start(FormWindow& window) {
 }  // namespace
 
 void layOutSetup(FormWindow& window) {
-  auto* column = bare<QVBoxLayout>(window, 12);
-  column->addStretch();
-  column->addLayout(players(window));
+  auto* column = within<QVBoxLayout>(window, window.page(), {24, 10, 24, 14}, 8);
+  column->addLayout(head(window));
+  column->addLayout(players(window), 1);
   column->addWidget(&window.at<QLabel>("Label3"));
   column->addLayout(start(window));
-  column->addStretch();
-  auto* row = within<QHBoxLayout>(window, window.page(), {20, 16, 28, 20}, 20);
-  row->addWidget(decoration(window, "kosci.png", {150, 262}));
-  row->addLayout(column, 1);
 }
 
 }  // namespace brolgan::desktop

@@ -1,8 +1,12 @@
 // The hero sheet: name and class, six figures, two lists.
+#include "sheet/sheet.h"
+
 #include <QListWidget>
+#include <QStyledItemDelegate>
 
 #include "desktop/layouts/grid.h"
 #include "desktop/layouts/layouts.h"
+#include "desktop/text.h"
 
 namespace brolgan::desktop {
 
@@ -10,6 +14,43 @@ namespace {
 
 constexpr int kFigures = 6;
 constexpr int kRows = 3;
+constexpr int kHead = 24;
+
+// Rows with the head of their monster before its name. A head is decoded when its row comes into sight; a
+// monster without one has its name alone.
+class Heads : public QStyledItemDelegate {
+ public:
+  Heads(FormWindow& window, QObject* parent) : QStyledItemDelegate(parent), window_(window) {}
+
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, window_.unit().pixels(kHead + 2)});
+  }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const int side = window_.unit().pixels(kHead);
+    const QPixmap head = headOf(index.row(), side);
+    if (head.isNull()) return;
+    option->features |= QStyleOptionViewItem::HasDecoration;
+    option->decorationSize = {side, side};
+    option->icon.addPixmap(head, QIcon::Normal);
+    option->icon.addPixmap(head, QIcon::Selected);
+  }
+
+ private:
+  [[nodiscard]] QPixmap headOf(int row, int side) const {
+    const auto* const sheet = dynamic_cast<const FHero*>(window_.form());
+    if (sheet == nullptr || row >= sheet->Stwory.ListCount()) return {};
+    const qreal ratio = window_.devicePixelRatioF();
+    const int pixels = qRound(side * ratio);
+    QPixmap head = window_.pictures().pixmap("glowa-" + toQt(sheet->pictureOfKill(row)), {pixels, pixels});
+    head.setDevicePixelRatio(ratio);
+    return head;
+  }
+
+  FormWindow& window_;
+};
 
 // A long name breaks its line, and is set smaller when that is not enough.
 QLabel& name(FormWindow& window, const char* control, Type type, Qt::Alignment alignment) {
@@ -68,6 +109,8 @@ void layOutSheet(FormWindow& window) {
   auto* lists = bare<QHBoxLayout>(window, 12);
   lists->addLayout(list(window, "Label1", "Bron"), 1);
   lists->addLayout(list(window, "Label2", "Stwory"), 1);
+  auto& kills = window.at<QListWidget>("Stwory");
+  kills.setItemDelegate(new Heads(window, &kills));
   all->addLayout(lists, 1);
 }
 

@@ -1,7 +1,9 @@
 // The shop: the hero and the zones at the left, the departments in the middle and at the right.
 // Behind each department lies the picture that shows when it is closed.
 #include <QLineEdit>
+#include <memory>
 
+#include "desktop/emblem.h"
 #include "desktop/layouts/departments.h"
 #include "desktop/layouts/grid.h"
 #include "desktop/layouts/layouts.h"
@@ -12,6 +14,7 @@ namespace {
 
 constexpr WeaponHeadings kHeadings = {{0, 1, 2, 3}, {7, 6, 5, 4}};
 constexpr int kZones = 12;
+constexpr int kEmblem = 30;
 
 // A department and the picture behind it share one place.
 QGridLayout* stacked(FormWindow& window, const char* frame, int picture) {
@@ -28,9 +31,15 @@ QGridLayout* stacked(FormWindow& window, const char* frame, int picture) {
 QWidget* zones(FormWindow& window) {
   QWidget& frame = window.at("Frame5");
   auto* column = within<QVBoxLayout>(window, frame, {10, 8, 10, 8}, 4);
-  for (int i = 1; i <= kZones; ++i) {
-    auto& zone = window.at<QPushButton>("w" + std::to_string(i));
+  const auto emblems = std::make_shared<EmblemRow>(window.pictures(), "strefy.png", kZones);
+  emblems->prepare((QSizeF(kEmblem, kEmblem) * window.unit().value() * window.devicePixelRatioF()).toSize());
+  for (int i = 0; i < kZones; ++i) {
+    auto& zone = window.at<QPushButton>("w" + std::to_string(i + 1));
     window.unit().atLeast(zone, 0, 36);
+    theme::makeTinted(zone, theme::kZones[static_cast<std::size_t>(i)]);
+    auto* const emblem = new Emblem(emblems, i, &zone);
+    window.unit().fixed(*emblem, kEmblem, kEmblem);
+    within<QHBoxLayout>(window, zone, {8, 2, 0, 4}, 0)->addWidget(emblem, 0, Qt::AlignLeft | Qt::AlignVCenter);
     column->addWidget(&zone);
   }
   return &frame;
@@ -44,7 +53,7 @@ QGridLayout* person(FormWindow& window) {
   grid->addWidget(&sheet, 0, 2, 2, 1, Qt::AlignRight);
   grid->addWidget(&window.at<QLineEdit>("Imie"), 1, 0, 1, 2);
   grid->addWidget(&label(window, "Label2", Type::heading), 2, 0, 1, 2);
-  grid->addWidget(&figure(window, "Ile_jeszcze", Type::bigFigure), 2, 2);
+  grid->addWidget(&points(window), 2, 2);
   grid->addWidget(&label(window, "Label15", Type::heading), 3, 0, 1, 2);
   grid->addWidget(&figure(window, "Tura", Type::figure), 3, 2);
   grid->setColumnStretch(1, 1);
@@ -55,7 +64,7 @@ QWidget* leftColumn(FormWindow& window) {
   auto* left = new QWidget(&window.page());
   auto* column = bare<QVBoxLayout>(window, 8);
   left->setLayout(column);
-  window.unit().fixed(*left, 256, 0);
+  window.unit().fixed(*left, 264, 0);
   column->addLayout(person(window));
   TextLabel& warning = label(window, "Label14", Type::small);
   warning.setWordWrap(true);

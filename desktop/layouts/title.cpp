@@ -1,5 +1,6 @@
-// The title: two pictures side by side, or one above the other in a tall window, on black.
+// The title: two pictures side by side, or one above the other in a tall window, on a wall of stone.
 #include <QGuiApplication>
+#include <QPainter>
 #include <QResizeEvent>
 
 #include "desktop/layouts/grid.h"
@@ -11,16 +12,46 @@ namespace brolgan::desktop {
 
 namespace {
 
-constexpr int kGap = 8;
+constexpr int kGap = 6;
 
-// Turns the row of pictures into a column when the page is taller than wide.
+// The wall fills whatever the pictures leave of the page, in courses of stones that overlap by half.
+class Wall : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.fillRect(rect(), theme::kStone);
+    painter.setPen(QPen(theme::kInk, Unit::pixels(this, kJoint)));
+    const int width = Unit::pixels(this, kWidth);
+    const int height = Unit::pixels(this, kHeight);
+    for (int row = 0, top = 0; top < this->height(); ++row, top += height) {
+      painter.drawLine(0, top, this->width(), top);
+      for (int x = row % 2 == 0 ? 0 : width / 2; x < this->width(); x += width)
+        painter.drawLine(x, top, x, top + height);
+    }
+  }
+
+ private:
+  // In units.
+  static constexpr int kWidth = 92;
+  static constexpr int kHeight = 34;
+  static constexpr int kJoint = 2;
+};
+
+// Turns the row of pictures into a column when the page is taller than wide, and keeps the wall behind it
+// as large as the page.
 class Turner : public QObject {
  public:
-  Turner(QBoxLayout& row, QWidget& page) : QObject(&page), row_(row) { page.installEventFilter(this); }
+  Turner(QBoxLayout& row, QWidget& page, QWidget& wall) : QObject(&page), row_(row), wall_(wall) {
+    page.installEventFilter(this);
+  }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (event->type() == QEvent::Resize) {
       const QSize size = static_cast<QResizeEvent*>(event)->size();
+      wall_.resize(size);
       row_.setDirection(size.width() >= size.height() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     }
     return QObject::eventFilter(watched, event);
@@ -28,6 +59,7 @@ class Turner : public QObject {
 
  private:
   QBoxLayout& row_;
+  QWidget& wall_;
 };
 
 }  // namespace
@@ -45,9 +77,8 @@ void prepareTitle(PictureStore& pictures, qreal ratio) {
 }
 
 void layOutTitle(FormWindow& window) {
-  QPalette palette = window.palette();
-  palette.setColor(QPalette::Window, theme::kInk);
-  window.setPalette(palette);
+  auto* const wall = new Wall(&window.page());
+  wall->lower();
   auto* row = new QBoxLayout(QBoxLayout::LeftToRight, &window.page());
   window.unit().margins(*row, {kGap, kGap, kGap, kGap});
   window.unit().spacing(*row, kGap);
@@ -56,7 +87,7 @@ void layOutTitle(FormWindow& window) {
     picture.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     row->addWidget(&picture, 1);
   }
-  new Turner(*row, window.page());
+  new Turner(*row, window.page(), *wall);
 }
 
 }  // namespace brolgan::desktop

@@ -9,7 +9,7 @@ namespace brolgan::desktop {
 
 class MachineSounds : public QueuedSounds {
  public:
-  MachineSounds() : QueuedSounds(makeMachineBackend) {}
+  explicit MachineSounds(const Lookup& lookup = Lookup()) : QueuedSounds(makeMachineBackend, kPatience, lookup) {}
 };
 
 }  // namespace brolgan::desktop
@@ -17,11 +17,13 @@ class MachineSounds : public QueuedSounds {
 #else
 
 #include "desktop/silence.h"
+#include "flow/text/lookup.h"
 
 namespace brolgan::desktop {
 
 class MachineSounds : public Silence {
  public:
+  explicit MachineSounds(const Lookup& = Lookup()) {}
   // Nothing plays, so nothing is waited for.
   bool close() { return true; }
 };

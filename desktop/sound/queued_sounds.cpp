@@ -8,8 +8,8 @@
 
 namespace brolgan::desktop {
 
-QueuedSounds::QueuedSounds(BackendMaker make, std::chrono::milliseconds patience)
-    : make_(std::move(make)), patience_(patience), mailbox_(std::make_shared<Mailbox>()) {}
+QueuedSounds::QueuedSounds(BackendMaker make, std::chrono::milliseconds patience, Lookup lookup)
+    : make_(std::move(make)), lookup_(std::move(lookup)), patience_(patience), mailbox_(std::make_shared<Mailbox>()) {}
 
 QueuedSounds::~QueuedSounds() { close(); }
 
@@ -26,7 +26,8 @@ void QueuedSounds::stop(const std::string& player) {
 // A machine out of threads is a silent one.
 void QueuedSounds::startWorker() {
   try {
-    worker_ = std::thread([mailbox = mailbox_, make = make_] { work(mailbox, make); });
+    worker_ =
+        std::thread([mailbox = mailbox_, make = make_, lookup = lookup_] { work(mailbox, make, kRestAfter, lookup); });
   } catch (const std::system_error&) {
   }
 }

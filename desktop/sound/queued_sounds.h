@@ -8,6 +8,7 @@
 
 #include "desktop/sound/backend.h"
 #include "flow/stage/outside.h"
+#include "flow/text/lookup.h"
 
 namespace brolgan::desktop {
 
@@ -18,7 +19,7 @@ class QueuedSounds : public Sounds {
   // How long the end of the program waits for the worker.
   static constexpr std::chrono::milliseconds kPatience{200};
 
-  explicit QueuedSounds(BackendMaker make, std::chrono::milliseconds patience = kPatience);
+  explicit QueuedSounds(BackendMaker make, std::chrono::milliseconds patience = kPatience, Lookup lookup = Lookup());
   // Ends the worker if that is not done yet.
   ~QueuedSounds() override;
 
@@ -34,6 +35,7 @@ class QueuedSounds : public Sounds {
   void startWorker();
 
   BackendMaker make_;
+  Lookup lookup_;
   std::chrono::milliseconds patience_;
   std::shared_ptr<Mailbox> mailbox_;
   std::thread worker_;

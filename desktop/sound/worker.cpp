@@ -1,6 +1,5 @@
 #include "desktop/sound/worker.h"
 
-#include <algorithm>
 #include <exception>
 
 #include "desktop/sound/variants.h"
@@ -11,8 +10,8 @@ namespace {
 
 class Worker {
  public:
-  Worker(Mailbox& mailbox, const BackendMaker& make, std::chrono::milliseconds restAfter)
-      : mailbox_(mailbox), make_(make), restAfter_(restAfter) {}
+  Worker(Mailbox& mailbox, const BackendMaker& make, std::chrono::milliseconds restAfter, const Lookup& lookup)
+      : mailbox_(mailbox), make_(make), restAfter_(restAfter), lookup_(lookup) {}
 
   // Does the next thing to do; answers whether there may be more.
   bool step() {
@@ -31,7 +30,7 @@ class Worker {
     if (!awake_) {
       if (order.file) wakeFor(order);
     } else if (order.file) {
-      backend_->play(order.player, variants_.next(pathOf(*order.file)));
+      backend_->play(order.player, variants_.next(lookup_(*order.file)));
     } else {
       backend_->stop(order.player);
     }
@@ -52,16 +51,12 @@ class Worker {
     awake_ = false;
   }
 
-  static std::string pathOf(std::string name) {
-    std::ranges::replace(name, '\\', '/');
-    return name;
-  }
-
   Mailbox& mailbox_;
   const BackendMaker& make_;
   std::unique_ptr<SoundBackend> backend_;
   Variants variants_;
   std::chrono::milliseconds restAfter_;
+  const Lookup& lookup_;
   bool awake_ = false;
 };
 
@@ -76,9 +71,10 @@ bool stepSafely(Worker& worker) {
 
 }  // namespace
 
-void work(const std::shared_ptr<Mailbox>& mailbox, const BackendMaker& make, std::chrono::milliseconds restAfter) {
+void work(const std::shared_ptr<Mailbox>& mailbox, const BackendMaker& make, std::chrono::milliseconds restAfter,
+          const Lookup& lookup) {
   {
-    Worker worker(*mailbox, make, restAfter);
+    Worker worker(*mailbox, make, restAfter, lookup);
     while (stepSafely(worker)) {
     }
   }

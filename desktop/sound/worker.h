@@ -6,6 +6,7 @@
 
 #include "desktop/sound/backend.h"
 #include "desktop/sound/mailbox.h"
+#include "flow/text/lookup.h"
 
 namespace brolgan::desktop {
 
@@ -16,6 +17,6 @@ inline constexpr std::chrono::milliseconds kRestAfter{2000};
 // Works until the mailbox is closed. Touches nothing but its arguments, which are its own, so that
 // it may outlive whoever started it.
 void work(const std::shared_ptr<Mailbox>& mailbox, const BackendMaker& make,
-          std::chrono::milliseconds restAfter = kRestAfter);
+          std::chrono::milliseconds restAfter = kRestAfter, const Lookup& lookup = Lookup());
 
 }  // namespace brolgan::desktop

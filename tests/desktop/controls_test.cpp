@@ -95,7 +95,7 @@ Expectations creationRows() {
   Expectations rows = creationFrames();
   rows.push_back(label("Label1", "Tworzenie bohatera"));
   rows.push_back(label("Label2", "Pozostało punktów :"));
-  rows.push_back(label("Ile_jeszcze", "12"));
+  rows.push_back(label("Ile_jeszcze", "12").drawn(Ink::badge));
   rows.push_back(expected(Kind::textBox, "Imie", "Kosiarz"));
   rows.push_back(label(
       "Label15",
@@ -155,7 +155,7 @@ Expectations shopRows() {
   Expectations rows = shopFrames();
   rows.push_back(label("Label1", "Sklep"));
   rows.push_back(label("Label2", "Pozostało punktów :"));
-  rows.push_back(label("Ile_jeszcze", "40"));
+  rows.push_back(label("Ile_jeszcze", "40").drawn(Ink::badge));
   rows.push_back(label("Label15", "Tura numer:"));
   rows.push_back(label("Tura", "1"));
   rows.push_back(label("Label14", "Towar raz kupiony nie podlega zwrotowi !!!"));
@@ -280,13 +280,13 @@ Expectations fightReports() {
   Expectations rows;
   rows.push_back(expected(Kind::frame, "FZad").hidden());
   rows.push_back(expected(Kind::picture, "Picture2").in("FZad").hidden());
-  rows.push_back(label("Label4", "Zadałeś :").in("FZad").hidden());
+  rows.push_back(label("Label4", "Zadałeś :").in("FZad").drawn(Ink::badge).hidden());
   rows.push_back(label("IleZad", "").in("FZad").hidden());
   rows.push_back(label("OpisZad", "").in("FZad").hidden());
   rows.push_back(button("CloseZad", "").in("FZad").hidden());
   rows.push_back(expected(Kind::frame, "FDamage", "DAMAGE!").hidden());
   rows.push_back(expected(Kind::picture, "Picture1").in("FDamage").hidden());
-  rows.push_back(label("Label3", "Otrzymałeś :").in("FDamage").hidden());
+  rows.push_back(label("Label3", "Otrzymałeś :").in("FDamage").drawn(Ink::badge).hidden());
   rows.push_back(label("IleDMG", "").in("FDamage").hidden());
   rows.push_back(label("OpisDMG", "").in("FDamage").hidden());
   rows.push_back(button("CloseDMG", "").in("FDamage").hidden());

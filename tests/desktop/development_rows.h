@@ -38,10 +38,10 @@ inline Expectations weaponRows() {
   Expectations rows = labels("Label7", {"Broń do walki wręcz", "Broń strzelecka"}, "fbron");
   rows.push_back(label("Label3", "Bronie").in("fbron"));
   for (const std::string prefix : {"BW", "BS"}) {
-    rows.push_back(label(prefix + "nazwa", "bron1").in("fbron"));
-    rows.push_back(label(prefix + "dmg", "0").in("fbron"));
-    rows.push_back(label(prefix + "cena", "0").in("fbron"));
-    rows.push_back(label(prefix + "opis", "opis można rzucać czary").in("fbron"));
+    rows.push_back(label(prefix + "nazwa", "bron1").in("fbron").drawn(Ink::pale));
+    rows.push_back(label(prefix + "dmg", "0").in("fbron").drawn(Ink::pale));
+    rows.push_back(label(prefix + "cena", "0").in("fbron").drawn(Ink::pale));
+    rows.push_back(label(prefix + "opis", "opis można rzucać czary").in("fbron").drawn(Ink::pale));
   }
   for (const char* name : {"Kupww", "Kupss"}) rows.push_back(button(name, "Kup").in("fbron"));
   for (const char* name : {"LBronww", "Lbronss"}) rows.push_back(expected(Kind::listBox, name).in("fbron"));

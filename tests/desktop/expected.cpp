@@ -62,6 +62,8 @@ bool isDrawn(const QColor& colour, Ink ink) {
       return colour == QApplication::palette().color(QPalette::Disabled, QPalette::WindowText);
     case Ink::current:
       return colour.green() > 90 && colour.red() < 40 && colour.blue() < 40;
+    case Ink::pale:
+      return colour == QApplication::palette().color(QPalette::Active, QPalette::PlaceholderText);
     case Ink::badge:
       return colour.lightness() > 200;
   }

@@ -11,8 +11,8 @@
 namespace brolgan::test {
 
 enum class Kind { label, textBox, notes, button, option, frame, comboBox, listBox, picture };
-// Current values are green; a badge is light on a dark ground.
-enum class Ink { plain, red, green, purple, black, grey, current, badge };
+// Current values are green; a badge is light on a dark ground; what only keeps the place of words is pale.
+enum class Ink { plain, red, green, purple, black, grey, current, badge, pale };
 
 struct Expected {
   std::string name;
@@ -43,8 +43,6 @@ inline Expected label(std::string name, std::string text) {
 inline Expected button(std::string name, std::string text) {
   return expected(Kind::button, std::move(name), std::move(text));
 }
-
-inline std::string member(const std::string& array, int index) { return array + "(" + std::to_string(index) + ")"; }
 
 // An array of labels with these captions, in a frame unless that is empty. red is the index of the
 // only red one, -1 for none.

@@ -15,6 +15,7 @@
 #include <QStyleOptionComboBox>
 #include <algorithm>
 
+#include "desktop/style.h"
 #include "desktop/text_label.h"
 
 namespace brolgan::test {
@@ -125,6 +126,7 @@ void expectNoneCovered(const std::vector<QWidget*>& widgets, bool isScrolled) {
 void expectNoneBelowSmallest(const std::vector<QWidget*>& widgets) {
   for (const QWidget* const widget : widgets) {
     EXPECT_GE(QFontInfo(widget->font()).pixelSize(), kSmallestText) << nameOf(*widget);
+    EXPECT_GE(QFontInfo(desktop::keyFont(*widget)).pixelSize(), kSmallestText) << nameOf(*widget);
   }
 }
 

@@ -2,7 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QTest>
 
@@ -147,13 +150,78 @@ TEST(Hand, ADoubleClickOnASpellCountsAsTwoClicks) {
   Stage stage;
   setCreation(stage.world, 12);
   stage.open({"CTmhero"});
+  desktop::FormWindow& window = stage.window("CTmhero");
   QWidget& spell = stage.at("CTmhero", "Czarn(0)");
-  QTest::mouseClick(&spell, Qt::LeftButton);
-  EXPECT_TRUE(stage.isRed("CTmhero", "Czarn(0)"));
-  QTest::mouseClick(&spell, Qt::LeftButton);
-  QTest::mouseDClick(&spell, Qt::LeftButton);
+  auto* const label = std::get<Label*>(stage.runtime.find("CTmhero")->controls().find("Czarn(0)").control);
+  std::vector<std::string> points;
+  label->Click = [&, buy = label->Click] {
+    buy();
+    points.push_back(std::get<Label*>(stage.runtime.find("CTmhero")->controls().find("Ile_jeszcze").control)->Caption);
+  };
+  QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, spell.mapTo(&window, spell.rect().center()));
   Stage::settle();
-  EXPECT_EQ(stage.text("CTmhero", "Ile_jeszcze"), "12");
+  EXPECT_EQ(points, (std::vector<std::string>{"11", "12"}));
+}
+
+// How often a widget is painted while it lives.
+class Paintings : public QObject {
+ public:
+  explicit Paintings(QWidget& widget) { widget.installEventFilter(this); }
+  int count = 0;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    count += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+};
+
+TEST(Hand, BothClicksOfADoubleClickAreSeen) {
+  Stage stage;
+  setCreation(stage.world, 12);
+  stage.open({"CTmhero"});
+  QWidget& spell = stage.at("CTmhero", "Czarn(0)");
+  Paintings paintings(spell);
+  const QPointF place(spell.rect().center());
+  for (const auto type : {QEvent::MouseButtonRelease, QEvent::MouseButtonRelease}) {
+    QMouseEvent event(type, place, spell.mapToGlobal(place), Qt::LeftButton, {}, {});
+    QApplication::sendEvent(&spell, &event);
+  }
+  EXPECT_EQ(paintings.count, 2);
+}
+
+TEST(Hand, AKeyHeldDownThroughADeathBuysNothingInTheNextShop) {
+  Stage stage;
+  FightSetup setup = plainFight();
+  setup.PotworPierwszy = 1;
+  setup.potwor.Atak = {1, 1, 1, 100};
+  Bohater hero = richHero();
+  hero.Wcielenia = 3;
+  setFight(stage.world, hero, setup);
+  stage.world.writeHero("hero2.boh", richHero());
+  stage.world.write(kGameFile, {" 2 ", "hero1.boh", "hero2.boh"});
+  stage.world.roll(1, 1, {1});
+  stage.world.roll(1, 4, {1});
+  stage.open({"Fight"});
+  ASSERT_EQ(stage.focus("Fight"), "CloseDMG");
+  for (int press = 0; press < 4; ++press) {
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", press > 0);
+    QApplication::sendEvent(QApplication::focusWidget(), &down);
+    Stage::settle();
+  }
+  ASSERT_TRUE(stage.isShown("CTsklep"));
+  EXPECT_EQ(stage.text("CTsklep", "Ile_jeszcze"), "40");
+}
+
+TEST(Hand, ASpellTakesAKeyThatIsHeldDownOnce) {
+  Stage stage;
+  setCreation(stage.world, 12);
+  stage.open({"CTmhero"});
+  for (int press = 0; press < 4; ++press) {
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ", press > 0);
+    QApplication::sendEvent(&stage.at("CTmhero", "Czarn(0)"), &down);
+  }
+  EXPECT_EQ(stage.text("CTmhero", "Ile_jeszcze"), "11");
 }
 
 TEST(Hand, NotesOfTheGameLeaveTheCursorBehindThem) {

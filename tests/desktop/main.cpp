@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <cstdio>
 
 #include "desktop/application.h"
 #include "desktop/theme.h"
@@ -14,6 +15,9 @@ int main(int argc, char* argv[]) {
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setDoubleClickInterval(0);
   brolgan::desktop::theme::apply(application);
-  if (!QDir::setCurrent(BROLGAN_PICTURES)) return 1;
+  if (!QDir::setCurrent(BROLGAN_PICTURES)) {
+    std::fprintf(stderr, "There are no pictures in %s\n", BROLGAN_PICTURES);
+    return 1;
+  }
   return RUN_ALL_TESTS();
 }

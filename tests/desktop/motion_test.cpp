@@ -47,6 +47,19 @@ TEST(Motion, ABlowMovesItsReportAndTheMonsterAndNoWidgetLeavesItsPlace) {
   EXPECT_EQ(monster.graphicsEffect(), nullptr);
 }
 
+TEST(Motion, TheFirstStrikeIsFeltWhenTheFightOpens) {
+  Stage stage;
+  FightSetup setup = plainFight();
+  setup.PotworPierwszy = 1;
+  setup.potwor.Atak = {1, 1, 1, 2};
+  setFight(stage.world, richHero(), setup);
+  stage.world.roll(1, 1, {1});
+  stage.open({"Fight"});
+  letItEnd(stage.at("Fight", "IleDMG"));
+  stage.choose("Fight", "Bron", "Nóż");
+  EXPECT_EQ(stage.at("Fight", "IleDMG").graphicsEffect(), nullptr);
+}
+
 TEST(Motion, NothingMovesWhenNothingIsNew) {
   Stage stage;
   openFight(stage, 1000);

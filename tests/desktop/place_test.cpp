@@ -75,6 +75,38 @@ TEST(Place, TheSetUpKeepsItsOwnPlace) {
   expectAt(stage, "CTmhero", {14, 40});
 }
 
+// A sheet that nobody has moved is put anew each time.
+TEST(Place, ASheetSeenInTheShopDoesNotCoverTheReportsOfTheFight) {
+  Stage stage;
+  setPreparation(stage.world, richHero());
+  stage.world.roll(1, 4, {1, 1});
+  stage.world.roll(1, 5, {2});
+  stage.open({"CTsklep"});
+  stage.click("CTsklep", "Heroshow");
+  stage.press("FHero", Qt::Key_Escape);
+  ASSERT_FALSE(stage.isShown("FHero"));
+  stage.click("CTsklep", "w1");
+  stage.click("Prefight", "Zakoncz");
+  for (const char* frame : {"FZad", "FDamage"}) {
+    std::get<Frame*>(stage.runtime.find("Fight")->controls().find(frame).control)->Visible = true;
+  }
+  stage.click("Fight", "Heroshow");
+  ASSERT_TRUE(stage.isShown("FHero"));
+  const QRect sheet = stage.window("FHero").geometry();
+  for (const QRect& clear : stage.window("Fight").keptClear()) EXPECT_FALSE(sheet.intersects(clear));
+}
+
+TEST(Place, ASheetThatWasMovedComesBackWhereItWasLeft) {
+  Stage stage;
+  setShop(stage.world, richHero());
+  stage.open({"CTsklep"});
+  stage.click("CTsklep", "Heroshow");
+  move(stage, "FHero", {31, 45});
+  stage.press("FHero", Qt::Key_Escape);
+  stage.click("CTsklep", "Heroshow");
+  expectAt(stage, "FHero", {31, 45});
+}
+
 TEST(Place, AScreenNeverHangsOverTheEdge) {
   Stage stage;
   setTheTable(stage.world);

@@ -17,6 +17,10 @@ constexpr int kDisplays = 24;
 
 bool fits(QSize room, QSize size) { return room.width() >= size.width() && room.height() >= size.height(); }
 
+QSize leastSize(const desktop::FormWindow& window) {
+  return (QSizeF(window.unit().size()) * desktop::Unit::kLeast).toSize();
+}
+
 // The window after which a form opens here.
 std::string before(const std::string& form) { return form == "Brolgan" ? "Main" : "Brolgan"; }
 
@@ -77,7 +81,8 @@ TEST_P(Screens, ShowTheWholeScreen) {
     expectWhole(stage, GetParam(), "maximised", isSmall);
     window.setWindowState(Qt::WindowNoState);
     moveTo(window, *screen, QRect(all.topLeft(), QSize(all.width() / 2, all.height() - 30)));
-    expectWhole(stage, GetParam(), "tiled", true);
+    const bool isNarrow = !fits(window.size(), leastSize(window));
+    expectWhole(stage, GetParam(), "tiled", isNarrow);
   }
 }
 
@@ -129,6 +134,19 @@ TEST(Screens, ComeBackIntoSightWhenTheirDisplayGoes) {
   Q_EMIT qGuiApp->screenRemoved(QGuiApplication::screens().last());
   Stage::settle();
   EXPECT_TRUE(QGuiApplication::primaryScreen()->availableGeometry().contains(window.geometry()));
+}
+
+TEST(Screens, AWindowLargerThanTheDisplayThatIsLeftComesWhollyIntoSight) {
+  Stage stage;
+  setFight(stage.world, richHero());
+  stage.open({"Fight"});
+  desktop::FormWindow& window = stage.window("Fight");
+  const QRect left = QGuiApplication::primaryScreen()->availableGeometry();
+  window.setGeometry(QRect(left.topLeft() + QPoint(10, 30), left.size() + QSize(60, 200)));
+  QApplication::processEvents();
+  Q_EMIT qGuiApp->screenRemoved(QGuiApplication::screens().last());
+  Stage::settle();
+  EXPECT_TRUE(left.contains(window.geometry()));
 }
 
 }  // namespace

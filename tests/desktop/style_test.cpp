@@ -16,6 +16,7 @@
 #include <QStyleOptionButton>
 #include <QStyleOptionGroupBox>
 #include <QTest>
+#include <cmath>
 
 #include "desktop/theme.h"
 
@@ -36,6 +37,7 @@ class Shown {
     window_.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window_));
     other_.setFocus();
+    QTest::mouseMove(&other_);
   }
 
   // The colour of a point of the widget as it stands in the window.
@@ -208,17 +210,60 @@ TEST(Style, TheTitleOfAPanelStandsOnAPlateAcrossItsEdge) {
   Shown<QGroupBox> shown;
   shown.widget.setTitle("i");
   EXPECT_EQ(shown.at(60, 5), theme::kPaper);
-  EXPECT_EQ(shown.at(60, 12), theme::kInk);
-  EXPECT_EQ(shown.at(60, 14), theme::kPanel);
+  EXPECT_EQ(shown.at(60, 16), theme::kInk);
+  EXPECT_EQ(shown.at(60, 18), theme::kPanel);
   EXPECT_EQ(shown.at(18, 0), theme::kInk);
-  EXPECT_EQ(shown.at(16, 13), theme::kPanel);
-  EXPECT_EQ(shown.widget.contentsRect(), QRect(2, 14, 116, 24));
+  EXPECT_EQ(shown.at(16, 17), theme::kPanel);
+  EXPECT_EQ(shown.widget.contentsRect(), QRect(2, 18, 116, 20));
 }
 
 TEST(Style, APanelWithoutATitleHasNoPlate) {
   Shown<QGroupBox> shown;
   EXPECT_EQ(shown.at(18, 0), theme::kPaper);
-  EXPECT_EQ(shown.at(18, 12), theme::kInk);
+  EXPECT_EQ(shown.at(18, 16), theme::kInk);
+}
+
+TEST(Style, ABandHeadsAPanelAndHoldsItsTitle) {
+  Shown<QGroupBox> shown;
+  shown.widget.setTitle("i");
+  theme::makeBanded(shown.widget, theme::kTaken);
+  EXPECT_EQ(shown.above(theme::kInk), 2);
+  EXPECT_EQ(shown.at(60, 3), theme::kTaken);
+  EXPECT_EQ(shown.at(60, 33), theme::kTaken);
+  EXPECT_EQ(shown.at(60, 35), theme::kInk);
+  EXPECT_EQ(shown.at(60, 37), theme::kPanel);
+  EXPECT_EQ(shown.widget.contentsRect(), QRect(2, 2, 116, 36));
+}
+
+TEST(Style, AFrameWithoutATitleHasTheSameBand) {
+  Shown<QFrame> shown;
+  theme::makePanel(shown.widget);
+  theme::makeBanded(shown.widget, theme::kDealt);
+  EXPECT_EQ(shown.at(60, 3), theme::kDealt);
+  EXPECT_EQ(shown.at(60, 33), theme::kDealt);
+  EXPECT_EQ(shown.at(60, 37), theme::kPanel);
+}
+
+TEST(Style, TheButtonThatLeadsOnKeepsItsFaceInFocus) {
+  Shown<QPushButton> shown;
+  theme::makePrimary(shown.widget);
+  EXPECT_EQ(shown.at(20, 20), theme::kPrimary);
+  shown.widget.setFocus(Qt::MouseFocusReason);
+  EXPECT_EQ(shown.at(20, 20), theme::kPrimary);
+  EXPECT_EQ(shown.below(theme::kFocus), 4);
+  shown.widget.setEnabled(false);
+  EXPECT_EQ(shown.at(20, 20), theme::kDisabledFace);
+}
+
+TEST(Style, ATintedButtonHasItsTintAtRestAlone) {
+  Shown<QPushButton> shown;
+  theme::makeTinted(shown.widget, theme::kZones[3]);
+  EXPECT_EQ(shown.at(20, 20), theme::kZones[3]);
+  shown.widget.setDown(true);
+  EXPECT_EQ(shown.at(20, 20), theme::kPressedFace);
+  shown.widget.setDown(false);
+  shown.widget.setFocus(Qt::MouseFocusReason);
+  EXPECT_EQ(shown.at(20, 20), theme::kFocusFace);
 }
 
 TEST(Style, ABadgeIsRoundWithALightFigure) {
@@ -240,6 +285,54 @@ TEST(Style, ATipHasAnEdgeOfInk) {
   EXPECT_EQ(image.pixelColor(1, 10), theme::kInk);
   EXPECT_EQ(image.pixelColor(2, 10), theme::kButtonHover);
   EXPECT_EQ(image.pixelColor(39, 19), theme::kInk);
+}
+
+// How much two colours differ in lightness, 1 to 21, as the guidelines for readable pages reckon it.
+double contrast(const QColor& one, const QColor& other) {
+  const auto light = [](const QColor& colour) {
+    const auto part = [](double value) {
+      return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF()) + 0.05;
+  };
+  const double ratio = light(one) / light(other);
+  return ratio < 1 ? 1 / ratio : ratio;
+}
+
+TEST(Contrast, TheFocusStandsOutFromWhatSurroundsIt) {
+  EXPECT_NEAR(contrast(Qt::black, Qt::white), 21, 0.01);
+  for (const QColor& around :
+       {theme::kPaper, theme::kPanel, theme::kButton, theme::kPlate, theme::kFocusFace, theme::kFocusField}) {
+    EXPECT_GE(contrast(theme::kFocus, around), 3) << around.name().toStdString();
+  }
+}
+
+TEST(Contrast, WordsCanBeReadOnTintsAndBands) {
+  const double words = 4.5;
+  for (const QColor& zone : theme::kZones) {
+    EXPECT_GE(contrast(zone, theme::kInk), words) << zone.name().toStdString();
+    EXPECT_GE(contrast(zone, theme::kFieldEdge), words) << "the letter on " << zone.name().toStdString();
+  }
+  for (const QColor& band : {theme::kDealt, theme::kTaken}) EXPECT_GE(contrast(band, theme::kButtonHover), words);
+  for (const QColor& face : {theme::kPrimary, theme::kPrimaryHover}) EXPECT_GE(contrast(face, theme::kInk), words);
+  for (const QColor& ground : {theme::kPanel, theme::kStripe}) EXPECT_GE(contrast(ground, theme::kDisabledText), words);
+}
+
+TEST(Contrast, TheFocusStandsOutFromTheButtonThatLeadsOn) { EXPECT_GE(contrast(theme::kPrimary, theme::kFocus), 3); }
+
+TEST(Contrast, TheEdgeOfAFieldStandsOutFromWhatSurroundsIt) {
+  for (const QColor& around : {theme::kPaper, theme::kPanel, theme::kPlate}) {
+    EXPECT_GE(contrast(theme::kFieldEdge, around), 3) << around.name().toStdString();
+  }
+}
+
+TEST(Contrast, WordsCanBeReadAlsoWhereNothingCanBeUsed) {
+  for (const QColor& face : {theme::kPaper, theme::kPanel, theme::kButton, theme::kButtonHover, theme::kPressedFace,
+                             theme::kPlate, theme::kFocusFace}) {
+    EXPECT_GE(contrast(theme::kInk, face), 4.5) << face.name().toStdString();
+  }
+  EXPECT_GE(contrast(theme::kDisabledText, theme::kDisabledFace), 4.5);
+  EXPECT_GE(contrast(theme::kDisabledText, theme::kPanel), 4.5);
 }
 
 }  // namespace

@@ -1,0 +1,215 @@
+// What a person is to see first on each screen: the shields, the class in hand, the zones, the points, the
+// heads of the beaten, and the way on.
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QRadioButton>
+#include <QTest>
+#include <set>
+
+#include "desktop/emblem.h"
+#include "desktop/theme.h"
+#include "rules/development.h"
+#include "tests/desktop/expected.h"
+#include "tests/desktop/scenes.h"
+
+namespace brolgan::test {
+namespace {
+
+namespace theme = desktop::theme;
+
+QRect placeOf(const QWidget& widget) { return {widget.mapTo(widget.window(), QPoint()), widget.size()}; }
+
+// The picture of that name in a window; null when there is none.
+const desktop::PictureWidget* pictureOf(const desktop::FormWindow& window, const QString& name) {
+  for (const auto* const label : window.findChildren<QLabel*>()) {
+    const auto* const picture = dynamic_cast<const desktop::PictureWidget*>(label);
+    if (picture != nullptr && picture->name() == name) return picture;
+  }
+  return nullptr;
+}
+
+// The share of points of that colour in a part of a picture.
+qreal shareOf(const QImage& image, const QRect& part, const QColor& colour) {
+  const QRect inside = part.intersected(image.rect());
+  int found = 0;
+  for (int y = inside.top(); y <= inside.bottom(); ++y) {
+    for (int x = inside.left(); x <= inside.right(); ++x) found += image.pixelColor(x, y) == colour ? 1 : 0;
+  }
+  return static_cast<qreal>(found) / (inside.width() * inside.height());
+}
+
+TEST(Looks, AWallFillsWhatThePicturesOfTheTitleLeave) {
+  Stage stage;
+  stage.start();
+  desktop::FormWindow& title = stage.window("Brolgan");
+  for (const QSize size : {QSize(1200, 700), QSize(700, 1400), QSize(1300, 300)}) {
+    title.resize(size);
+    Stage::settle();
+    const QImage shown = title.grab().scaled(size).toImage();
+    const QRect corner = size.width() > 4 * size.height() ? QRect(0, 0, 80, 300) : QRect(0, 0, size.width(), 80);
+    EXPECT_GT(shareOf(shown, corner, theme::kStone), 0.7) << size.width();
+    EXPECT_LT(shareOf(shown, corner, theme::kInk), 0.25) << size.width();
+    for (const char* const picture : {"pics(0)", "pics(1)"}) {
+      EXPECT_TRUE(QRect(QPoint(), size).contains(placeOf(stage.at("Brolgan", picture)))) << size.width();
+    }
+  }
+}
+
+TEST(Looks, EveryPlayerHasAShieldAboveHisFile) {
+  Stage stage;
+  stage.start();
+  const desktop::FormWindow& window = stage.window("Main");
+  for (int i = 0; i < 4; ++i) {
+    const auto* const shield = pictureOf(window, QString("tarcza-%1.png").arg(i + 1));
+    ASSERT_NE(shield, nullptr) << i;
+    const QRect file = placeOf(stage.at("Main", member("gracz", i)));
+    EXPECT_LT(placeOf(*shield).bottom(), file.top());
+    EXPECT_NEAR(placeOf(*shield).center().x(), file.center().x(), 2);
+    const QPoint mark = placeOf(stage.at("Main", member("Czygra", i))).center();
+    EXPECT_LT((mark - placeOf(*shield).center()).manhattanLength(), 4);
+  }
+}
+
+TEST(Looks, TheEmblemIsThatOfTheClassInHand) {
+  Stage stage;
+  setCreation(stage.world, 20);
+  stage.open({"CTmhero"});
+  const desktop::FormWindow& window = stage.window("CTmhero");
+  for (int i = kClasses; i > 0; --i) {
+    stage.click("CTmhero", member("Klasa", i - 1));
+    std::ignore = stage.window("CTmhero").grab();
+    EXPECT_NE(pictureOf(window, QString("klasa-%1.png").arg(i)), nullptr) << i;
+  }
+  stage.click("CTmhero", "Klasa(6)");
+  stage.open({"CTmhero"});
+  std::ignore = stage.window("CTmhero").grab();
+  int chosen = 0;
+  while (!stage.get<QRadioButton>("CTmhero", member("Klasa", chosen)).isChecked()) ++chosen;
+  EXPECT_NE(pictureOf(stage.window("CTmhero"), QString("klasa-%1.png").arg(chosen + 1)), nullptr) << "a fresh hero";
+}
+
+TEST(Looks, EachZoneHasATintAndAnEmblemOfItsOwn) {
+  Stage stage;
+  setShop(stage.world, richHero());
+  stage.open({"CTsklep"});
+  std::set<QRgb> tints;
+  std::vector<QImage> emblems;
+  for (int i = 1; i <= 12; ++i) {
+    QWidget& zone = stage.at("CTsklep", "w" + std::to_string(i));
+    const auto found = zone.findChildren<desktop::Emblem*>();
+    ASSERT_EQ(found.size(), 1) << i;
+    const QImage emblem = found.front()->grab().toImage();
+    for (const QImage& other : emblems) EXPECT_NE(emblem, other) << i;
+    emblems.push_back(emblem);
+    tints.insert(zone.grab().toImage().pixel(zone.width() - 40, zone.height() / 2));
+    EXPECT_LT(found.front()->width(), zone.width() / 4);
+  }
+  EXPECT_EQ(tints.size(), 12U);
+}
+
+TEST(Looks, AClickOnTheEmblemOfAZoneGoesThere) {
+  Stage stage;
+  setPreparation(stage.world, richHero());
+  stage.world.roll(1, 5, {1});
+  stage.open({"CTsklep"});
+  QWidget& zone = stage.at("CTsklep", "w1");
+  const auto* const emblem = zone.findChild<desktop::Emblem*>();
+  ASSERT_NE(emblem, nullptr);
+  QTest::mouseClick(stage.window("CTsklep").windowHandle(), Qt::LeftButton, {}, placeOf(*emblem).center());
+  Stage::settle();
+  EXPECT_TRUE(stage.isShown("Prefight"));
+}
+
+TEST(Looks, WhatIsSaidOfNoWeaponIsPale) {
+  Stage stage;
+  setShop(stage.world, richHero());
+  stage.open({"CTsklep"});
+  const QColor pale = QApplication::palette().color(QPalette::PlaceholderText);
+  for (const char* value : {"BWnazwa", "BWdmg", "BWcena", "BWopis"}) {
+    EXPECT_EQ(stage.colour("CTsklep", value), pale) << value;
+  }
+  stage.choose("CTsklep", "LBronww", stage.rows("CTsklep", "LBronww").front());
+  for (const char* value : {"BWdmg", "BWcena", "BWopis"})
+    EXPECT_EQ(stage.colour("CTsklep", value), theme::kInk) << value;
+  EXPECT_EQ(stage.colour("CTsklep", "BSdmg"), pale);
+}
+
+TEST(Looks, TheHeadOfAMonsterStandsBesideItsName) {
+  Stage stage;
+  Bohater hero = richHero();
+  hero.Stwory(0) = 3;
+  hero.Stwory(2) = 1;
+  setShop(stage.world, hero);
+  stage.open({"FHero"});
+  auto& kills = stage.get<QListWidget>("FHero", "Stwory");
+  ASSERT_EQ(kills.count(), 2);
+  const qreal ratio = kills.devicePixelRatioF();
+  const QImage shown = kills.viewport()->grab().toImage();
+  for (const auto& [row, name] : {std::pair(0, "glowa-szczur.jpg"), std::pair(1, "glowa-zombi.jpg")}) {
+    const QRect place = kills.visualItemRect(kills.item(row));
+    const int side = qRound(stage.window("FHero").unit().pixels(24) * ratio);
+    const QImage head = stage.pictures.pixmap(name, {side, side}).toImage().convertToFormat(shown.format());
+    ASSERT_FALSE(head.isNull());
+    bool isFound = false;
+    for (int x = 0; x < 12 && !isFound; ++x) {
+      for (int y = 0; y < 12 && !isFound; ++y) {
+        const QPoint corner = (QPointF(place.topLeft()) * ratio).toPoint() + QPoint(x, y);
+        isFound = shown.copy(QRect(corner, head.size())).convertToFormat(head.format()) == head;
+      }
+    }
+    EXPECT_TRUE(isFound) << name;
+  }
+}
+
+TEST(Looks, AMonsterWithoutAHeadHasItsNameAlone) {
+  Stage stage;
+  Bohater hero = richHero();
+  hero.Stwory(0) = 3;
+  setShop(stage.world, hero);
+  auto monsters = fiveMonsters();
+  monsters[0].Obrazek = "nieznany.jpg";
+  writeMonsters(stage.world, "monsters.cfg", monsters);
+  stage.open({"FHero"});
+  std::ignore = stage.window("FHero").grab();
+  EXPECT_EQ(stage.rows("FHero", "Stwory"), std::vector<std::string>{"Szczur (3)"});
+  EXPECT_TRUE(stage.errors.empty());
+}
+
+TEST(Looks, TheRowsThatDropDownAreWhole) {
+  Stage stage;
+  setPreparation(stage.world, richHero());
+  stage.open({"Prefight"});
+  auto& list = stage.get<QComboBox>("Prefight", "Czary");
+  list.addItem("Czar o nazwie, która jest o wiele dłuższa niż miejsce na nią w oknie gry przed walką");
+  list.showPopup();
+  QApplication::processEvents();
+  const int need = QFontMetrics(list.view()->font()).horizontalAdvance(list.itemText(list.count() - 1));
+  ASSERT_GT(need, list.width());
+  EXPECT_GT(list.view()->viewport()->width(), need);
+  list.hidePopup();
+}
+
+TEST(Looks, DeathLightsUpThePlaster) {
+  Stage stage;
+  FightSetup setup = plainFight();
+  setup.PotworPierwszy = 1;
+  setup.potwor.Atak = {1, 1, 1, 100};
+  setFight(stage.world, plainHero(), setup);
+  stage.world.roll(1, 1, {1});
+  stage.open({"Fight"});
+  QWidget& plaster = stage.at("Fight", "CloseDMG");
+  const auto face = [&] { return plaster.grab().toImage().pixelColor(12, plaster.height() / 2); };
+  ASSERT_EQ(stage.text("Fight", "OpisDMG"), "Śmierć!");
+  ASSERT_EQ(stage.focus("Fight"), "CloseDMG");
+  EXPECT_EQ(face(), theme::kPrimary);
+  plaster.clearFocus();
+  EXPECT_EQ(face(), theme::kButton);
+}
+
+}  // namespace
+}  // namespace brolgan::test
