@@ -69,10 +69,10 @@ class Table:
 
 def fill(table, figures):
     both = lambda quantity: (median(figures, "floor", quantity), median(figures, "game", quantity))
-    table.add_ratio("exec to first window painted", "ms", *both("first_window_ms"), 2.2)
+    table.add_ratio("exec to first window painted", "ms", *both("first_window_ms"), 1.6)
     table.add("exec to the set-up painted as well", "ms", None, median(figures, "game", "next_window_ms"), "-", None)
     kilobytes = lambda figure: figure / 1024
-    table.add_ratio("resident with the first window", "MB", *map(kilobytes, both("resident_kb")), 1.4)
+    table.add_ratio("resident with the first window", "MB", *map(kilobytes, both("resident_kb")), 1.35)
     floor_peak = kilobytes(median(figures, "floor", "peak_kb"))
     game_peak = kilobytes(median(figures, "game", "peak_after_all_kb"))
     table.add_ratio("peak after all forms", "MB", floor_peak, game_peak, 2.0)

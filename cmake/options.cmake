@@ -20,6 +20,13 @@ target_compile_options(brolgan_options INTERFACE
   $<$<BOOL:${BROLGAN_WERROR}>:-Werror>)
 # GCC 12 takes the joining of two short strings for an overlapping copy.
 target_compile_options(brolgan_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+if(EMSCRIPTEN)
+  # Its standard library is older than the language; web/older_library.h fills the gaps.
+  target_compile_options(brolgan_options INTERFACE
+    -fexceptions -Wno-unused-lambda-capture -include ${PROJECT_SOURCE_DIR}/web/older_library.h
+    $<$<CONFIG:Release>:-Os>)
+  target_link_options(brolgan_options INTERFACE -fexceptions)
+endif()
 if(BROLGAN_SANITIZE STREQUAL "address")
   set(sanitizers address,undefined)
 else()

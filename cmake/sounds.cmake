@@ -6,6 +6,8 @@
 # VARIANT sets what comes by chance, PACE the beats a minute (60 as written). The fanfare is heard
 # once a game and rendered once; each piece of music has a source of its own.
 #
+# Where the game is installed they lie in the same folders, as they are or smaller.
+#
 # Run as a script (cmake -D CSOUND= -D SOURCE= -D VARIANT= -D PACE= -D WAV= -P sounds.cmake) this
 # file renders one sound.
 # csound leaves a WAV behind when it fails, and calls a score with broken notes a success: the
@@ -36,6 +38,10 @@ if(NOT BROLGAN_RUN_DIR)
 endif()
 
 find_program(BROLGAN_CSOUND csound DOC "csound 6, renders the sounds of the game")
+option(BROLGAN_SMALL_SOUNDS "Install the sounds in MS ADPCM, a quarter of their size (needs sox)" OFF)
+if(BROLGAN_SMALL_SOUNDS)
+  find_program(BROLGAN_SOX sox REQUIRED)
+endif()
 set(sounds)
 
 # Adds the rendering of assets/sounds/SOURCE.csd as NAME.wav.
@@ -49,12 +55,20 @@ function(brolgan_render source name variant pace)
     DEPENDS ${here}/${source}.csd ${here}/lib.inc ${here}/pace.inc
     COMMENT "Rendering ${name}.wav"
     VERBATIM)
-  set(sounds ${sounds} ${wav} PARENT_SCOPE)
+  set(installed ${wav})
+  if(BROLGAN_SMALL_SOUNDS)
+    set(installed ${PROJECT_BINARY_DIR}/small/${name}.wav)
+    add_custom_command(OUTPUT ${installed} DEPENDS ${wav}
+      COMMAND ${BROLGAN_SOX} -D ${wav} -e ms-adpcm ${installed} VERBATIM)
+  endif()
+  cmake_path(GET name PARENT_PATH folder)
+  install(FILES ${installed} DESTINATION ${BROLGAN_DATA_FOLDER}/${folder})
+  set(sounds ${sounds} ${wav} ${installed} PARENT_SCOPE)
 endfunction()
 
 if(BROLGAN_CSOUND)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/../assets/sounds/*.csd)
-  file(MAKE_DIRECTORY ${BROLGAN_RUN_DIR}/guit)
+  file(MAKE_DIRECTORY ${BROLGAN_RUN_DIR}/guit ${PROJECT_BINARY_DIR}/small/guit)
   foreach(source IN LISTS sources)
     cmake_path(GET source STEM name)
     if(name MATCHES "^hard2")

@@ -22,11 +22,12 @@ def lines(*texts):
 
 
 def lay_data(folder):
-    """One knife and one bow that always do five; six rats of which each always bites three."""
+    """One knife and one bow that always do five; rats in twos, of which each always bites two and falls at
+    the first blow."""
     weapon = ["miecz.wav", " 5 ", " 5 ", " 1 ", " 0 "]
     (folder / "bron.cfg").write_bytes(
         lines(" 1 ", "Nóż", *weapon, "False", " 0 ", " 1 ", " 1 ", "Łuk", *weapon, " 0 ", " 0 ", " 1 "))
-    rat = [" 1 ", "Szczur", "szczur.jpg", " 50 ", " 3 ", " 3 ", " 1 ", " 0 ", " 500 ", " 0 "]
+    rat = [" 2 ", "Szczur", "szczur.jpg", " 50 ", " 2 ", " 2 ", " 1 ", " 0 ", " 2 ", " 0 "]
     (folder / "monsters.cfg").write_bytes(lines(" 6 ", *(rat * 6)))
 
 
@@ -150,30 +151,46 @@ def sheet(player):
 
 def preparation(player):
     player.hears("Potwór: Szczur")
-    player.hears("Wytrzymałość potwora: 500")
+    player.hears("Wytrzymałość potwora: 2")
     player.hears("Obecna wytrzymałość: 12")
+    player.bus.announced.clear()
     player.presses("alt+z")
 
 
 def fight(player):
-    # The rat is faster, so it bites first.
-    player.hears("Otrzymałeś: 3")
-    player.hears("Twoja wytrzymałość: 9")
+    # The rats are faster, so they bite first.
+    player.is_told("Otrzymałeś: 2 2")
+    player.hears("Twoja wytrzymałość: 8")
     player.presses("alt+b")
     player.presses("Down")
     player.hears("Broń: Nóż")
+    player.hears("Ilu przeciwników zostało: 2")
     player.bus.announced.clear()
     player.presses("alt+a")
     wait_for("announcement of the blow", lambda: any(words.startswith("Zadałeś: ") for words in player.bus.announced))
+    player.is_told("Zabity!")
+    player.hears("Ilu przeciwników zostało: 1")
     player.bus.announced.clear()
     player.presses("alt+n")
-    player.is_told("Otrzymałeś: 3")
+    player.is_told("Otrzymałeś: 2")
     player.hears("Twoja wytrzymałość: 6")
-    player.presses("alt+n")
-    player.hears("Twoja wytrzymałość: 3")
     player.bus.announced.clear()
+    player.presses("alt+a")
+    player.is_told("Czysto!")
     player.presses("alt+n")
-    player.is_told("Śmierć!")
+
+
+def death(player):
+    player.hears("Tura numer: 2")
+    player.presses("alt+1")
+    player.hears("Potwór: Szczur")
+    player.bus.announced.clear()
+    player.presses("alt+z")
+    player.is_told("Otrzymałeś: 2 2")
+    while "Śmierć!" not in player.bus.announced:
+        player.bus.announced.clear()
+        player.presses("alt+n")
+        wait_for("announcement of a bite", lambda: player.bus.announced)
 
 
 def main():
@@ -185,7 +202,7 @@ def main():
                                stderr=complaints.open("w"))
     passed = 0
     try:
-        for test in (set_up, creation, start, shop, sheet, preparation, fight):
+        for test in (set_up, creation, start, shop, sheet, preparation, fight, death):
             test(Player(bus))
             passed += 1
             print("followed:", test.__name__, flush=True)

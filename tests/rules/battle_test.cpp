@@ -36,12 +36,14 @@ TEST_P(MeleeDamage, TakesThePercentOnStrengthAndFlatBonusAndAddsTheWeaponsDice) 
 INSTANTIATE_TEST_SUITE_P(Sums, MeleeDamage,
                          testing::Values(Blow{0, 0, 0, 3, 0, 4, 7}, Blow{0, 5, 2, 3, 1, 4, 15},
                                          Blow{100, 5, 2, 3, 1, 4, 25}, Blow{45, 0, 0, 4, 0, 0, 6},
-                                         Blow{-50, 0, 0, 4, 0, 3, 5}, Blow{0, 0, 0, 3, -10, 4, -3}));
-// 14.5 is a true tie of doubles; 10 percent on 25 is a trifle above 27.5.
+                                         Blow{-50, 0, 0, 4, 0, 3, 5}, Blow{0, 0, 0, 3, -10, 4, -3},
+                                         Blow{45, 5, 3, 7, 2, 5, 29}, Blow{100, 2, 3, 4, 10, 20, 48}));
+// 14.5 is a true tie of doubles; 10 percent on 25 is a trifle above 27.5, 70 percent a trifle below 42.5.
 INSTANTIATE_TEST_SUITE_P(TiesGoToEven, MeleeDamage,
                          testing::Values(Blow{45, 0, 0, 10, 0, 0, 14}, Blow{45, 0, 0, 10, 0, 1, 16},
                                          Blow{50, 0, 0, 1, 0, 0, 2}, Blow{50, 0, 0, 3, 0, 0, 4},
-                                         Blow{50, 0, 0, 1, 0, 1, 2}, Blow{10, 0, 0, 25, 0, 1, 29}));
+                                         Blow{50, 0, 0, 1, 0, 1, 2}, Blow{10, 0, 0, 25, 0, 1, 29},
+                                         Blow{70, 0, 0, 25, 0, 0, 42}, Blow{57, 0, 0, 50, 0, 1, 79}));
 
 TEST(MeleeDamageOf, OverflowsBeyondAnIntegerAndOnItsPartialSum) {
   Bohater hero = plainHero();
@@ -49,6 +51,22 @@ TEST(MeleeDamageOf, OverflowsBeyondAnIntegerAndOnItsPartialSum) {
   hero.BronwwPlus(0) = 1;
   hero.BronwwProc(0) = -100;
   EXPECT_EQ(errorOf([&] { meleeDamage(hero, 0, 32767, {1, 6, 1, 0}, 0); }), 6);
+}
+
+TEST(MeleeDamageOf, OverflowsWhenThePercentDoesButNotForTheSumOfDoubles) {
+  Bohater hero = plainHero();
+  hero.BronwwPlus(3) = 20000;
+  hero.BronwwProc(3) = 100;
+  EXPECT_EQ(errorOf([&] { meleeDamage(hero, 3, 0, {}, 0); }), 6);
+  hero.BronwwPlus(3) = 16000;
+  EXPECT_EQ(meleeDamage(hero, 3, 0, {}, 0), 32000);
+}
+
+TEST(MeleeDamageOf, LooksAtTheWeaponOfThatPlace) {
+  Bohater hero = plainHero();
+  hero.BronwwProc(3) = 100;
+  hero.BronwwPlus(3) = 50;
+  EXPECT_EQ(meleeDamage(hero, 2, 4, {}, 5), 9);
 }
 
 TEST(MeleeDamageOf, AWeaponBehindTheTenthIsASubscriptError) {
@@ -82,6 +100,16 @@ TEST(Reward, AGroupOfOneCountsOnce) {
   EXPECT_DOUBLE_EQ(reward("Wojownik", 1, {1, 4, 2, 0}, 5), 2);
 }
 
+TEST(Reward, GrowsByAThirdWithEachFurtherMonster) {
+  EXPECT_DOUBLE_EQ(reward("Wojownik", 2, {1, 4, 2, 0}, 5), 2.33);
+  EXPECT_DOUBLE_EQ(reward("Wojownik", 26, {1, 4, 2, 0}, 5), 10.25);
+}
+
+TEST(Reward, IsTheTenthOfAttackAndArmourAndOneWithHalfOfAnOddSumOfFaces) {
+  EXPECT_EQ(reward("Wojownik", 1, {1, 5, 5, 99}, 10), 3.5);
+  EXPECT_EQ(reward("Wojownik", 1, {1, 4, 2, 0}, 0), 1.5);
+}
+
 TEST(Reward, LeavesOutTheMonstersAddition) {
   EXPECT_EQ(reward("Wojownik", 1, {1, 4, 1, 0}, 0), reward("Wojownik", 1, {1, 4, 1, 1000}, 0));
 }
@@ -96,6 +124,7 @@ TEST(Reward, OfAGamblerIsNotRounded) { EXPECT_DOUBLE_EQ(reward("Ryzykant", 1, {1
 TEST(Reward, TellsClassesByTheLetter) {
   EXPECT_EQ(rewardFor("ryzykant"), rewardFor("Wojownik"));
   EXPECT_EQ(rewardFor(""), rewardFor("Wojownik"));
+  EXPECT_EQ(rewardFor("Ryzykant "), rewardFor("Wojownik"));
 }
 
 TEST(Reward, AddsTheFacesOfTheMonstersDiceBeyondAnInteger) {

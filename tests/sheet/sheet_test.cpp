@@ -183,6 +183,22 @@ TEST(HeroSheet, ListsKilledMonstersWithTheirCountsInListOrder) {
   EXPECT_EQ(sheet.kills(), (Lines{"Potwór 1 (13)", "Potwór 8 (1)", "Potwór 45 (2)"}));
 }
 
+TEST(HeroSheet, KnowsThePictureOfTheMonsterInEachRow) {
+  Sheet sheet;
+  Lines lines = monsterLines(3);
+  lines[2 * 10 + 3] = "trzeci.jpg";
+  sheet.world.write("monsters.cfg", lines);
+  sheet.hero.Stwory(1) = 1;
+  sheet.hero.Stwory(2) = 4;
+  sheet.hero.Stwory(20) = 1;
+  sheet.open();
+  const auto& shown = dynamic_cast<const FHero&>(*sheet.world.runtime.find("FHero"));
+  EXPECT_EQ(shown.pictureOfKill(0), "p.jpg");
+  EXPECT_EQ(shown.pictureOfKill(1), "trzeci.jpg");
+  EXPECT_EQ(shown.pictureOfKill(2), "");
+  EXPECT_THROW(std::ignore = shown.pictureOfKill(3), std::out_of_range);
+}
+
 TEST(HeroSheet, AKillBeyondTheListOfMonstersShowsAnEmptyName) {
   Sheet sheet;
   sheet.world.write("monsters.cfg", monsterLines(2));

@@ -117,6 +117,25 @@ TEST_F(VariantsTest, ReachTheBackendInTurn) {
                     "SFX " + path("miecz-2.wav"), "SFX " + path("miecz.wav"), "Music1 " + path("guit/hard2-2.wav")}));
 }
 
+// A player's own sword is the only one; of the rest he hears what is installed.
+TEST_F(VariantsTest, LieBesideTheSoundThatIsFound) {
+  fs::create_directories(folder / "own");
+  fs::create_directories(folder / "data");
+  lay({"own/miecz.wav", "data/miecz.wav", "data/miecz-2.wav", "data/kij.wav", "data/kij-2.wav"});
+  const fs::path before = fs::current_path();
+  fs::current_path(folder / "own");
+  const auto diary = std::make_shared<Diary>();
+  QueuedSounds sounds(standIn(diary), std::chrono::milliseconds(60000), Lookup(path("data")));
+  std::size_t events = 1;
+  for (const char* name : {"miecz.wav", "miecz.wav", "kij.wav", "kij.wav"}) {
+    sounds.play("SFX", name);
+    diary->await(++events);
+  }
+  EXPECT_EQ(diary->await(5), (Events{"open", "SFX miecz.wav", "SFX miecz.wav", "SFX " + path("data/kij.wav"),
+                                     "SFX " + path("data/kij-2.wav")}));
+  fs::current_path(before);
+}
+
 TEST_F(VariantsTest, ASoundThatIsOvertakenLosesNoTurn) {
   lay({"miecz.wav", "miecz-2.wav"});
   const auto diary = std::make_shared<Diary>();

@@ -21,11 +21,12 @@ def lines(name):
 def named_by_data():
     monsters, weapons = lines("monsters.cfg"), lines("bron.cfg")
     pictures = {monsters[1 + 10 * i + 2] for i in range(int(monsters[0]))}
+    heads = {"glowa-" + picture for picture in pictures}
     melee = int(weapons[0])
     ranged_at = 1 + 9 * melee
     sounds = {weapons[1 + 9 * i + 1] for i in range(melee)}
     sounds |= {weapons[ranged_at + 1 + 9 * i + 1] for i in range(int(weapons[ranged_at]))}
-    return pictures | sounds
+    return pictures | heads | sounds
 
 
 def named_by_program():

@@ -1,7 +1,7 @@
 """The project's own files, told without asking version control, so that a plain copy checks as well."""
 import os
 
-LEFT_OUT = {"build", ".git", "__pycache__"}
+LEFT_OUT = {"build", ".git", "__pycache__", "node_modules"}
 
 
 def files(folder=".", endings=("",)):

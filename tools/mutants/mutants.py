@@ -20,7 +20,7 @@ TREE = pathlib.Path(__file__).resolve().parents[2]
 COPY = TREE / "build/mutants"
 ROOMS = {"flow/text": "text", "flow/stage": "stage", "flow": "flow", "rules": "rules", "departments": "departments",
          "creation": "creation", "shop": "shop", "preparation": "preparation", "fight": "fight", "sheet": "sheet",
-         "game": "game"}
+         "game": "game", "game/guide": "guide"}
 # What stands between blanks is an operator: the formatter sets none around the brackets of a template.
 SWAPS = [(r" < ", [" <= ", " >= "]), (r" > ", [" >= ", " <= "]), (r" <= ", [" < ", " > "]), (r" >= ", [" > ", " < "]),
          (r" == ", [" != "]), (r" != ", [" == "]), (r" && ", [" || "]), (r" \|\| ", [" && "]),

@@ -1,5 +1,5 @@
 // Plays a short game by clicking real widgets in real windows and takes a picture of the whole
-// display at every screen. Run by take.sh in a folder laid out for play.
+// display at every screen, and a few while a fight goes on. Run by take.sh in a folder laid out for play.
 // Usage: brolgan_screens FOLDER-FOR-PICTURES HERO-FILE [maximised]
 #include <QApplication>
 #include <QComboBox>
@@ -86,9 +86,11 @@ class Session {
 
   void fight() {
     pick("Bron", "Oczożłop");
-    click("Fight", "Atak");
-    click("Fight", "NastTura");
-    click("Fight", "Atak");
+    for (const char* button : {"Atak", "NastTura", "Atak"}) {
+      film();
+      click("Fight", button);
+    }
+    film();
   }
 
   QWidget& widget(const char* form, const QString& name) {
@@ -130,9 +132,13 @@ class Session {
     QGuiApplication::primaryScreen()->grabWindow(0).save(folder_ + "/" + name + ".png");
   }
 
+  // The next frame of the moving picture.
+  void film() { take(QString("film-%1").arg(frames_++)); }
+
   QString folder_;
   QString grownHero_;
   bool isMaximised_;
+  int frames_ = 0;
   DiskFiles files_;
   SeededRandom random_;
   SetClock clock_;

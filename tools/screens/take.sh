@@ -1,6 +1,7 @@
 #!/bin/sh
 # take.sh [FOLDER]: takes the pictures of docs/screens (or of FOLDER): every screen at 1366 x 768; those
-# of creation, fight and shop at other sizes, each in a folder of its own, and at 200 %.
+# of creation, fight and shop at other sizes, each in a folder of its own, and at 200 %; and a fight that
+# moves.
 set -eu
 target=${1:-}
 case $target in "" | /*) ;; *) target=$PWD/$target ;; esac
@@ -25,13 +26,21 @@ take() {
   for picture in "$play"/taken/*.png; do
     name=${picture##*/}
     case $4/$name in
+      */film-*) ;;
       "$target/$name" | */creation.png | */fight.png | */shop.png)
         convert "$picture" -depth 8 -colors 256 "PNG8:$4/$name" ;;
     esac
   done
 }
 
+# film FOLDER: makes the moving picture of a fight from the frames of the first run.
+film() {
+  convert -loop 0 -delay 120 "$work"/1366x768x1/taken/film-*.png -resize 683x -colors 128 +dither -layers Optimize \
+    "$1/fight.gif"
+}
+
 take 1366 768 1 "$target"
+film "$target"
 take 2732 1536 2 "$target/200"
 take 1024 600 1 "$target/1024x600"
 take 2560 1440 1 "$target/2560x1440"
