@@ -33,6 +33,7 @@ TEST(SoundTurns, AMissingFileHasNone) { EXPECT_EQ(asked({"kij-2.wav"}, "kij.wav"
 TEST(SoundTurns, TheEndingIsThatOfTheNameAlone) {
   EXPECT_EQ(asked({"a.b/kij", "a.b/kij-2"}, "a.b/kij", 2), (Names{"a.b/kij", "a.b/kij-2"}));
   EXPECT_EQ(asked({".wav", ".wav-2"}, ".wav", 2), (Names{".wav", ".wav-2"}));
+  EXPECT_EQ(asked({"a/b.wav", "a/b-2.wav"}, "a/b.wav", 2), (Names{"a/b.wav", "a/b-2.wav"}));
 }
 
 TEST(SoundTurns, EachSoundTakesItsOwn) {

@@ -143,6 +143,8 @@ TEST(WholeNumber, ReadsACaption) {
   EXPECT_EQ(wholeNumber("70000"), 70000);
 }
 
+TEST(WholeNumber, EndsWithItsCaption) { EXPECT_EQ(wholeNumber(std::string_view("1234").substr(0, 2)), 12); }
+
 TEST(WholeNumber, EveryCaptionThatTheGameWritesReadsBack) {
   for (const int number : {-32768, -1, 0, 1, 32767}) EXPECT_EQ(wholeNumber(decimal(Integer(number))), number);
 }
