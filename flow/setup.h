@@ -13,7 +13,6 @@ namespace brolgan {
 class Main : public Form {
  public:
   static constexpr const char* kName = screens::kSetUp;
-  static constexpr int kPlayers = 4;
   Main(Runtime& runtime, RandomSource& random);
 
   void Form_Load() override;

@@ -30,7 +30,7 @@ QGridLayout* shield(FormWindow& window, int player) {
 QGridLayout* players(FormWindow& window) {
   auto* grid = bare<QGridLayout>(window, 8);
   window.unit().spacing(*grid, 20, 8);
-  for (int i = 0; i < Main::kPlayers; ++i) {
+  for (int i = 0; i < kPlayers; ++i) {
     auto& file = window.at<QLineEdit>("gracz", i);
     auto& create = window.at<QPushButton>("GraczM", i);
     window.unit().atLeast(file, 0, 32);

@@ -14,8 +14,6 @@ namespace {
 using guide::get;
 using guide::isUsable;
 
-constexpr int kPlayers = 4;
-
 // The first control that can be used, of those in a frame when one is named.
 std::string firstUsable(Form& form, const std::string& frame = {}) {
   const Frame* const within = frame.empty() ? nullptr : &get<Frame>(form, frame);

@@ -1,9 +1,12 @@
-// Every name by which the game is known to what surrounds it: its eight screens, the pictures and
-// sounds that it asks for by itself, and the verdicts by which a fight tells its end. What the data
-// files name stands there. Names of text files stand with the rules that read and write them.
+// What the game is known by to all that surrounds it: the names of its eight screens, of the pictures and
+// sounds that it asks for by itself and of the verdicts by which a fight tells its end, and how many sit
+// at it. What the data files name stands there. Names of text files stand with the rules that read and write them.
 #pragma once
 
 namespace brolgan {
+
+// How many heroes the set-up has room for.
+inline constexpr int kPlayers = 4;
 
 namespace screens {
 inline constexpr const char* kStart = "Starter";

@@ -35,8 +35,8 @@ Weapon knowWeapon(const BronRecord& record, int index, bool melee) {
   weapon.melee = melee;
   weapon.staff = melee && index >= kFirstStaff && index <= kLastStaff;
   weapon.cannon = !melee && index == kCannon;
-  weapon.fire = !melee && record.ogien == 1;
-  weapon.spread = !melee && record.wszyscy == 2;
+  weapon.fire = !melee && record.carriesFire();
+  weapon.spread = !melee && record.hitsAll();
   weapon.ultimate = record.nazwa == kUltiGun;
   return weapon;
 }
