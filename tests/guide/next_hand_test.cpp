@@ -187,6 +187,21 @@ TEST(NextHand, ACastThatTheMagicDoesNotReachIsNoCast) {
   EXPECT_EQ(fight.focus, "Atak");
 }
 
+TEST(NextHand, MagicForJustOneMoreCastIsEnough) {
+  World world;
+  Bohater hero = fighter("Nóż");
+  hero.OstatniCzar = "Kaczy Fart";
+  hero.AktMoc = 8;
+  setLongFight(world, hero);
+  Played fight(world, "Fight");
+  fight.focus = "Rzuc";
+  fight.press();
+  EXPECT_EQ(world.caption("Fight", "Pstat(2)"), "4");
+  rollHarmlessAnswer(world);
+  fight.press();
+  EXPECT_EQ(fight.focus, "Rzuc");
+}
+
 TEST(NextHand, ACasterWhoseMagicIsSpentStrikes) {
   World world;
   Bohater hero = fighter("Nóż");
