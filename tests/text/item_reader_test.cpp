@@ -279,8 +279,8 @@ TEST_P(NoBoolean, IsATypeMismatch) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Words, NoBoolean,
-                         testing::Values("", "   ", "Prawda", "Tru", "Truee", "#TRUE", "TRUE#", "#", "##", "# TRUE#",
-                                         "12abc", "\"True\"", "#1#", "NULL"));
+                         testing::Values("", "   ", "Prawda", "Tru", "Truee", "#TRUE", "TRUE#", "1TRUE#", "#TRUE1", "#",
+                                         "##", "# TRUE#", "12abc", "\"True\"", "#1#", "NULL"));
 
 // Untyped variables.
 
