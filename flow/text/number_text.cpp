@@ -88,11 +88,11 @@ double exponentOf(std::string_view text) {
   return negative ? -value : value;
 }
 
-// How many places the first digit that counts stands before the point, or behind it as a negative.
+// About how many places the first digit that counts stands before the point, or behind it as a negative.
 long leadingPlaces(std::string_view mantissa) {
   const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
   const auto first = static_cast<long>(mantissa.find_first_of("123456789"));
-  return first < point ? point - first : point + 1 - first;
+  return point - first;
 }
 
 // What a number of this form comes to when no double can hold it: too large or too small.

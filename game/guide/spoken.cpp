@@ -136,7 +136,7 @@ std::string developed(int index) {
 }
 
 bool isStep(const ControlEntry& entry) {
-  return entry.name.size() == 5 && entry.name.starts_with("stat") && entry.name[4] >= '1' && entry.name[4] <= '7';
+  return entry.name.size() == 5 && entry.name.starts_with("stat");
 }
 
 std::string step(const ControlEntry& entry) {

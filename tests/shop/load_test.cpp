@@ -64,6 +64,14 @@ TEST_F(ShopLoad, KeepsSpellsGearAndZonesInModeThreeAndFillsTheClosedListsAllTheS
   EXPECT_TRUE(isReachable(world.form(form).controls().find("w12")));
 }
 
+TEST_F(ShopLoad, EmptiesTheListsOfWeaponsBeforeItFillsThem) {
+  departmentsIn(" 1 ");
+  world.form(form).Form_Load();
+
+  EXPECT_EQ(world.rows(form, "LBronww").size(), 10U);
+  EXPECT_EQ(world.rows(form, "Lbronss").size(), 10U);
+}
+
 TEST_F(ShopLoad, RefusesEveryClickInAClosedDepartment) {
   departmentsIn(" 2 ");
   Lines before = picture();
