@@ -96,6 +96,21 @@ TEST(News, EachDeathIsToldWhateverKills) {
   EXPECT_EQ(fight.world.caption("Fight", "OpisZad"), "Zabity!");
 }
 
+TEST(News, AnOldWarningIsNotToldWithANewBlow) {
+  Bohater hero = richHero();
+  hero.MaBronss(9) = true;
+  hero.OstatniaBron = "UltiGun";
+  hero.OstatniPrzedmiot = "Granat";
+  Told fight(hero, monsters(1, 1000));
+  fight.open();
+  fight.world.roll(1, 140, {50});
+  fight.world.roll(1, 8, {1, 1, 1, 1, 1});
+  fight.world.roll(1, 10, {1});
+  EXPECT_EQ(fight.click("Atak"), (Reports{"IleZad", "Uwaga"}));
+  fight.world.roll(1, 30, {4});
+  EXPECT_EQ(fight.click("Uzyj"), Reports{"IleZad"});
+}
+
 TEST(News, AnOldDeathIsNotToldWithANewBlow) {
   Bohater hero = knifeFighter();
   hero.OstatniPrzedmiot = "Granat";
