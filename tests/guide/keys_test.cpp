@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <string>
+#include <vector>
 
 #include "tests/desktop/scenes.h"
 
@@ -37,6 +39,20 @@ TEST(AccessKey, IsTheLetterOfTheCaptionWhereThatIsFree) {
   EXPECT_EQ(accessKey("Fight", table.find("Atak")), 'A');
   EXPECT_EQ(accessKey("Fight", table.find("NastTura")), 'N');
   EXPECT_EQ(accessKey("Fight", table.find("mana")), '\0');
+}
+
+TEST(AccessKey, OfAHeroOrAZoneIsItsNumber) {
+  World world;
+  setPreparation(world, richHero());
+  world.runtime.Show("Main");
+  world.runtime.Show("CTsklep");
+  const auto letters = [&world](const std::string& screen, const std::vector<std::string>& names) {
+    std::string row;
+    for (const std::string& name : names) row += accessKey(screen, world.form(screen).controls().find(name));
+    return row;
+  };
+  EXPECT_EQ(letters("Main", {"GraczM(0)", "GraczM(1)", "GraczM(2)", "GraczM(3)"}), "1234");
+  EXPECT_EQ(letters("CTsklep", {"w1", "w2", "w3", "w4", "w5", "w6", "w7", "w8", "w9", "w10"}), "1234567890");
 }
 
 }  // namespace

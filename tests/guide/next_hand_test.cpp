@@ -90,6 +90,18 @@ TEST(NextHand, ARoundWithAReportClosedTakesThreePresses) {
   EXPECT_EQ(fight.focus, "Atak");
 }
 
+TEST(NextHand, AHeroWithOneWeaponThatHeHasNotChosenIsLedToIt) {
+  World world;
+  Bohater hero = fighter("");
+  for (int i = 0; i < 10; ++i) hero.MaBronww(i) = hero.MaBronss(i) = false;
+  for (int i = 0; i < kSpells; ++i) hero.MaCzar(i) = false;
+  hero.MaBronww(3) = true;
+  setLongFight(world, hero);
+  Played fight(world, "Fight");
+  EXPECT_EQ(world.rows("Fight", "Bron").size(), 1U);
+  EXPECT_EQ(fight.focus, "Bron");
+}
+
 TEST(NextHand, AHeroWhoCastLastCastsAgain) {
   World world;
   Bohater hero = fighter("Nóż");
