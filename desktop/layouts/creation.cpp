@@ -131,7 +131,7 @@ void layOutCreation(FormWindow& window) {
   middle->addLayout(withPicture(window, "fbron", 0, 46, Qt::AlignRight | Qt::AlignTop, {0, 8, 14, 0}), 1);
   auto* right = bare<QVBoxLayout>(window, 10);
   right->addLayout(withPicture(window, "fczar", 1, 96, Qt::AlignRight | Qt::AlignBottom, {0, 0, 14, 10}), 3);
-  right->addLayout(withPicture(window, "Frame4", 2, 66, Qt::AlignLeft | Qt::AlignBottom, {84, 0, 0, 10}), 1);
+  right->addLayout(withPicture(window, "Frame4", 2, 58, Qt::AlignLeft | Qt::AlignBottom, {12, 0, 0, 8}), 1);
   auto* left = new QWidget(&window.page());
   left->setLayout(person(window));
   window.unit().fixed(*left, 280, 0);
