@@ -120,7 +120,9 @@ TEST(Looks, AClickOnTheEmblemOfAZoneGoesThere) {
   QWidget& zone = stage.at("CTsklep", "w1");
   const auto* const emblem = zone.findChild<desktop::Emblem*>();
   ASSERT_NE(emblem, nullptr);
-  QTest::mouseClick(stage.window("CTsklep").windowHandle(), Qt::LeftButton, {}, placeOf(*emblem).center());
+  const QPoint place = placeOf(*emblem).center();
+  EXPECT_EQ(stage.window("CTsklep").childAt(place), &zone);
+  QTest::mouseClick(stage.window("CTsklep").windowHandle(), Qt::LeftButton, {}, place);
   Stage::settle();
   EXPECT_TRUE(stage.isShown("Prefight"));
 }
@@ -166,6 +168,18 @@ TEST(Looks, TheHeadOfAMonsterStandsBesideItsName) {
   }
 }
 
+// Where the words of a row begin, in pixels of the window; -1 when it has none.
+int wordsBegin(QListWidget& list, int row) {
+  const QRect place = list.visualItemRect(list.item(row));
+  const QImage shown = list.viewport()->grab(place).toImage();
+  for (int x = 0; x < shown.width(); ++x) {
+    for (int y = 0; y < shown.height(); ++y) {
+      if (shown.pixelColor(x, y).lightness() < 80) return qRound(x / list.devicePixelRatioF());
+    }
+  }
+  return -1;
+}
+
 TEST(Looks, AMonsterWithoutAHeadHasItsNameAlone) {
   Stage stage;
   Bohater hero = richHero();
@@ -177,6 +191,9 @@ TEST(Looks, AMonsterWithoutAHeadHasItsNameAlone) {
   stage.open({"FHero"});
   std::ignore = stage.window("FHero").grab();
   EXPECT_EQ(stage.rows("FHero", "Stwory"), std::vector<std::string>{"Szczur (3)"});
+  const int words = wordsBegin(stage.get<QListWidget>("FHero", "Stwory"), 0);
+  EXPECT_GE(words, 0);
+  EXPECT_LT(words, stage.window("FHero").unit().pixels(12));
   EXPECT_TRUE(stage.errors.empty());
 }
 
