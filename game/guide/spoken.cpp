@@ -135,9 +135,7 @@ std::string developed(int index) {
   return kSupplyTable.at(static_cast<std::size_t>(index - kStatistics)).name;
 }
 
-bool isStep(const ControlEntry& entry) {
-  return entry.name.size() == 5 && entry.name.starts_with("stat");
-}
+bool isStep(const ControlEntry& entry) { return entry.name.size() == 5 && entry.name.starts_with("stat"); }
 
 std::string step(const ControlEntry& entry) {
   const std::string name = statistic(entry.name[4] - '1');
