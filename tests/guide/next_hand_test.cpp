@@ -102,6 +102,19 @@ TEST(NextHand, AHeroWithOneWeaponThatHeHasNotChosenIsLedToIt) {
   EXPECT_EQ(fight.focus, "Bron");
 }
 
+TEST(NextHand, DeathByTheOwnGrenadeLeadsToThePlasterFromWhereverTheHandStands) {
+  World world;
+  Bohater hero = fighter("Nóż");
+  hero.OstatniPrzedmiot = "Granat";
+  setLongFight(world, hero);
+  Played fight(world, "Fight");
+  fight.focus = "Bron";
+  world.roll(1, 30, {1, 30});
+  fight.click("Uzyj");
+  EXPECT_EQ(world.caption("Fight", "OpisDMG"), "Śmierć!");
+  EXPECT_EQ(fight.focus, "CloseDMG");
+}
+
 TEST(NextHand, AHeroWhoCastLastCastsAgain) {
   World world;
   Bohater hero = fighter("Nóż");

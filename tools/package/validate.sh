@@ -1,6 +1,7 @@
 #!/bin/sh
 # validate.sh FOLDER: asks every validator about the packages of FOLDER; each must keep silent.
 set -eu
+export LC_ALL=C.UTF-8
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT INT TERM
 
