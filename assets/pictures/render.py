@@ -20,8 +20,8 @@ LEDGER = os.path.join(OUT, "ledger.txt")
 # Pictures that are no monsters: the files made of each source and their widths in pixels.
 OTHERS = {
     "tytul": {"tytul.jpg": 1680}, "tytul-noc": {"tytul-noc.jpg": 1680}, "walka": {"walka.jpg": 2680},
-    "stragan-bron": {"stragan-bron.png": 1000}, "stragan-czary": {"stragan-czary.png": 1000},
-    "stragan-cechy": {"stragan-cechy.png": 1000}, "szyld": {"szyld.png": 768}, "lampa": {"lampa.png": 240},
+    "stragan-bron": {"stragan-bron.jpg": 1000}, "stragan-czary": {"stragan-czary.jpg": 1000},
+    "stragan-cechy": {"stragan-cechy.jpg": 1000}, "szyld": {"szyld.png": 768}, "lampa": {"lampa.png": 240},
     "cios": {"cios.png": 240}, "rana": {"rana.png": 240}, "arkusz": {"arkusz.png": 144},
     "zamknij": {"zamknij.png": 96}, "zamknij-rana": {"zamknij-rana.png": 96},
     "tworz-miecz": {"tworz-miecz.png": 320}, "tworz-ksiega": {"tworz-ksiega.png": 320},
@@ -62,7 +62,11 @@ JPEG = ["-quality", "80", "-sampling-factor", "4:4:4"]
 # and the one behind the fight in the very proportion of its window, which is half as wide at a unit a
 # pixel, so that it is scaled while it is decoded and not once more after.
 SCENE = ["-quality", "80", "-sampling-factor", "4:2:0"]
-SCENES = {"tytul.jpg": SCENE, "tytul-noc.jpg": SCENE, "walka.jpg": ["-resize", "2680x1432!", *SCENE]}
+# The shut stalls stand on the paper of the shop and nowhere else: a JPEG with the paper in it is decoded
+# close to the size at which it shows, where all three PNG were decoded whole.
+ON_PAPER = ["-background", "#efe2c4", "-flatten", *JPEG]
+STALLS = {f"stragan-{ware}.jpg": ON_PAPER for ware in ("bron", "czary", "cechy")}
+SCENES = {"tytul.jpg": SCENE, "tytul-noc.jpg": SCENE, "walka.jpg": ["-resize", "2680x1432!", *SCENE], **STALLS}
 
 # 255 colours, each row as the difference to the one above: decodes in half the time of all colours. Not
 # as a palette, which is scaled down without blending its colours.

@@ -75,9 +75,9 @@ TEST_F(ShopDesign, LocksTheNameAndTheFileAndKeepsTheNameFromTheKeyboard) {
 
 TEST_F(ShopDesign, HasEachPictureInItsOwnBoxAndOnTheButtonOfTheSheet) {
   EXPECT_EQ(screen.pics[0].Picture, "szyld.png");
-  EXPECT_EQ(screen.pics[1].Picture, "stragan-czary.png");
-  EXPECT_EQ(screen.pics[2].Picture, "stragan-bron.png");
-  EXPECT_EQ(screen.pics[3].Picture, "stragan-cechy.png");
+  EXPECT_EQ(screen.pics[1].Picture, "stragan-czary.jpg");
+  EXPECT_EQ(screen.pics[2].Picture, "stragan-bron.jpg");
+  EXPECT_EQ(screen.pics[3].Picture, "stragan-cechy.jpg");
   EXPECT_EQ(screen.pics[4].Picture, "lampa.png");
   EXPECT_STREQ(screen.Heroshow.Picture, "arkusz.png");
 }
