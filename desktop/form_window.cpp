@@ -40,9 +40,12 @@ class FormWindow::Page : public QWidget {
  public:
   explicit Page(FormWindow& window) : window_(window) {}
 
-  // Begins to decode the background at the size of the page.
+  // Begins to decode the background at the size of the page, unless it is drawn so already.
   void prepare() const {
-    if (!window_.background().isEmpty()) window_.pictures().prepare(window_.background(), pixels(), kMode);
+    const bool isShown = shown_.size() == pixels();
+    if (!isShown && !window_.background().isEmpty()) {
+      window_.pictures().prepare(window_.background(), pixels(), kMode);
+    }
   }
   void forget() { shown_ = {}; }
 

@@ -52,7 +52,6 @@ brolgan::Lookup placeOf(brolgan::desktop::Application& application) {
 // The game from its first window to its end; answers the exit code of the program.
 int play(brolgan::desktop::Application& application) {
   using namespace brolgan;
-  desktop::PictureStore::keepMemorySmall();
   const Lookup lookup = placeOf(application);
   desktop::PictureStore pictures(lookup);
   desktop::prepareTitle(pictures, application.devicePixelRatio());
@@ -81,6 +80,7 @@ int play(brolgan::desktop::Application& application) {
 
 int main(int argc, char* argv[]) {
   using namespace brolgan;
+  desktop::PictureStore::keepMemorySmall();
   desktop::Application application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setDesktopFileName("brolgan");  // Under this name a desktop finds the icon of the windows.

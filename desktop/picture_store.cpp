@@ -5,6 +5,7 @@
 #include <QBuffer>
 #include <QByteArray>
 #include <QImageReader>
+#include <algorithm>
 #include <chrono>
 #include <system_error>
 #include <utility>
@@ -74,24 +75,37 @@ void PictureStore::prepare(const QString& name, QSize box, Qt::AspectRatioMode m
   });
   try {
     prepared_[key] = std::async(std::launch::async, decode, pathOf(name), box, mode);
+    ++decodings_[name];
   } catch (const std::system_error&) {  // There is no thread to be had; pixmap() decodes it then.
     prepared_.erase(key);
   }
+}
+
+int PictureStore::decodings(const QString& name) const {
+  const auto found = decodings_.find(name);
+  return found == decodings_.end() ? 0 : found->second;
 }
 
 QPixmap PictureStore::pixmap(const QString& name, QSize box, Qt::AspectRatioMode mode) {
   const QString key = keyOf(name, box, mode);
   if (const QPixmap* known = cache_.object(key)) return *known;
   auto prepared = prepared_.extract(key);
+  if (!prepared) ++decodings_[name];
   const QImage image = prepared ? prepared.mapped().get() : decode(pathOf(name), box, mode);
   if (image.isNull() && loaded_.contains(name)) {
     load(name.toStdString());
     failOn(name.toStdString());
   }
   QPixmap picture = QPixmap::fromImage(image);
-  const int kilobytes = static_cast<int>(qint64{4} * picture.width() * picture.height() / 1024);
-  cache_.insert(key, new QPixmap(picture), kilobytes);
+  keep(key, picture);
   return picture;
+}
+
+// On a large or dense screen there is room for the background and as much again.
+void PictureStore::keep(const QString& key, const QPixmap& picture) {
+  const int kilobytes = static_cast<int>(qint64{4} * picture.width() * picture.height() / 1024);
+  cache_.setMaxCost(std::max<qsizetype>(cache_.maxCost(), 2 * kilobytes));
+  cache_.insert(key, new QPixmap(picture), kilobytes);
 }
 
 }  // namespace brolgan::desktop

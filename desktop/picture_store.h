@@ -39,13 +39,18 @@ class PictureStore : public Pictures {
   // what has become of its file.
   QPixmap pixmap(const QString& name, QSize box, Qt::AspectRatioMode mode = Qt::KeepAspectRatio);
 
+  // How many times that picture was decoded, or began to be; for tests.
+  [[nodiscard]] int decodings(const QString& name) const;
+
  private:
   [[nodiscard]] QString pathOf(const QString& name) const;
+  void keep(const QString& key, const QPixmap& picture);
 
   Lookup lookup_;
   std::set<QString> loaded_;
   std::map<QString, std::future<QImage>> prepared_;
   QCache<QString, QPixmap> cache_;
+  std::map<QString, int> decodings_;
 };
 
 }  // namespace brolgan::desktop

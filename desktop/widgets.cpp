@@ -154,7 +154,10 @@ void Picture::forget() {
   shownFor_ = {};
 }
 
-void Picture::prepare(const QWidget& widget, QRect area) const { pictures_.prepare(name_, pixelsOf(widget, area)); }
+void Picture::prepare(const QWidget& widget, QRect area) const {
+  const QSize wanted = pixelsOf(widget, area);
+  if (wanted != shownFor_) pictures_.prepare(name_, wanted);
+}
 
 void Picture::draw(QWidget& widget, QRect area) {
   if (name_.isEmpty() || area.isEmpty()) return;
@@ -180,9 +183,13 @@ void PictureWidget::setName(const QString& name) {
   if (picture_.setName(name)) update();
 }
 
-void PictureWidget::prepare() { picture_.prepare(*this, contentsRect()); }
+void PictureWidget::prepare() {
+  if (!isCovered()) picture_.prepare(*this, contentsRect());
+}
 
-void PictureWidget::paintEvent(QPaintEvent*) { picture_.draw(*this, contentsRect()); }
+void PictureWidget::paintEvent(QPaintEvent*) {
+  if (!isCovered()) picture_.draw(*this, contentsRect());
+}
 
 void PictureWidget::setDimmed(bool isDimmed) {
   if (picture_.setDimmed(isDimmed)) update();

@@ -105,7 +105,7 @@ class Picture {
   // Sets it back, as behind a veil; answers whether that is a change.
   bool setDimmed(bool isDimmed);
   [[nodiscard]] bool isDimmed() const { return isDimmed_; }
-  // Begins to decode the picture for an area of the widget.
+  // Begins to decode the picture for an area of the widget, unless it was drawn there before.
   void prepare(const QWidget& widget, QRect area) const;
   void draw(QWidget& widget, QRect area);
   // Gives back the memory of what was drawn.
@@ -128,6 +128,8 @@ class PictureWidget : public QLabel {
   void setDimmed(bool isDimmed);
   [[nodiscard]] bool isDimmed() const { return picture_.isDimmed(); }
   [[nodiscard]] const QString& name() const { return picture_.name(); }
+  // Stands behind that widget: while it shows, the picture is neither decoded nor drawn.
+  void setCover(const QWidget& cover) { cover_ = &cover; }
   // Begins to decode the picture for its next drawing.
   void prepare();
 
@@ -136,7 +138,10 @@ class PictureWidget : public QLabel {
   void hideEvent(QHideEvent* event) override;
 
  private:
+  [[nodiscard]] bool isCovered() const { return cover_ != nullptr && !cover_->isHidden(); }
+
   Picture picture_;
+  const QWidget* cover_ = nullptr;
 };
 
 // A button whose face is a picture.

@@ -21,6 +21,7 @@ QGridLayout* stacked(FormWindow& window, const char* frame, int picture) {
   auto* place = bare<QGridLayout>(window, 0);
   auto& shut = window.at<PictureWidget>("pics", picture);
   shut.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+  shut.setCover(window.at(frame));
   keepRoom(window.at(frame));
   place->addWidget(&shut, 0, 0);
   place->addWidget(&window.at(frame), 0, 0);
@@ -102,8 +103,8 @@ void layOutShop(FormWindow& window) {
   right->addLayout(signs(window), 1);
   auto* columns = within<QHBoxLayout>(window, window.page(), {12, 10, 12, 10}, 10);
   columns->addWidget(leftColumn(window));
-  columns->addLayout(middle, 6);
-  columns->addLayout(right, 5);
+  columns->addLayout(middle, 11);
+  columns->addLayout(right, 10);
 }
 
 }  // namespace brolgan::desktop
