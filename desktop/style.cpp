@@ -35,6 +35,8 @@ constexpr QPoint kPressedShift(1, 2);
 // From the outside of a box of text to its text.
 constexpr QMargins kFieldMargins(6, 3, 6, 3);
 constexpr int kArrowWidth = 16;
+// In pixels, what a line to write in leaves free before its words.
+constexpr int kLineMargin = 2;
 constexpr QSize kArrow(9, 5);
 
 // A panel with a title leaves room above for half of the title's plate.
@@ -252,9 +254,9 @@ QRect groupBoxPart(const QStyleOptionGroupBox& option, QStyle::SubControl part, 
 QRect comboBoxPart(const QRect& place, QStyle::SubControl part, const QWidget* widget) {
   const Lengths length(widget);
   const int arrow = length.of(kArrowWidth);
-  // The text keeps one pixel of the field free.
+  // The words begin where those of a line to write in do.
   if (part == QStyle::SC_ComboBoxEditField) {
-    return place.marginsRemoved(length.of(kFieldMargins)).adjusted(-1, 0, -arrow, 0);
+    return place.marginsRemoved(length.of(kFieldMargins)).adjusted(kLineMargin, 0, -arrow, 0);
   }
   if (part != QStyle::SC_ComboBoxArrow) return place;
   const QRect inside = place.marginsRemoved(length.of(kEvenEdge));

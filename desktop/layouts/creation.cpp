@@ -137,8 +137,8 @@ void layOutCreation(FormWindow& window) {
   window.unit().fixed(*left, 280, 0);
   auto* columns = within<QHBoxLayout>(window, window.page(), {12, 10, 12, 10}, 10);
   columns->addWidget(left);
-  columns->addLayout(middle, 12);
-  columns->addLayout(right, 11);
+  columns->addLayout(middle, 1);
+  columns->addLayout(right, 1);
 }
 
 }  // namespace brolgan::desktop

@@ -11,8 +11,13 @@ namespace brolgan::desktop {
 
 namespace {
 
+// A name, a gap, its buttons.
+constexpr int kGapColumn = 1;
+constexpr int kButtonColumn = 2;
+constexpr int kGap = 7;
+
 void addButtons(FormWindow& window, QGridLayout& grid, int row, int index) {
-  int column = 1;
+  int column = kButtonColumn;
   for (const char* name : {"MINUS", "PLUS"}) {
     if (window.has(member(name, index))) {
       auto& button = window.at<QPushButton>(name, index);
@@ -24,7 +29,7 @@ void addButtons(FormWindow& window, QGridLayout& grid, int row, int index) {
   }
 }
 
-constexpr int kLadderColumn = 3;
+constexpr int kLadderColumn = kButtonColumn + 2;
 constexpr int kCurrentColumn = kLadderColumn + 12;
 
 void addLadder(FormWindow& window, QGridLayout& grid, int row, int index) {
@@ -107,6 +112,8 @@ void layOutDesk(FormWindow& window, QGridLayout& grid, int column, const Desk& d
 
 void layOutStatistics(FormWindow& window) {
   QGridLayout& grid = *gridIn(window, window.at("fstat"), 10, 4);
+  window.unit().spacing(grid, 3, 4);
+  window.unit().column(grid, kGapColumn, kGap);
   grid.addWidget(&label(window, "Label4(0)", Type::heading), 0, 0, 1, kCurrentColumn);
   for (int i = 0; i < kStatistics; ++i) {
     grid.addWidget(&window.at<QLabel>("Label5", i), i + 1, 0);
@@ -121,16 +128,17 @@ void layOutStatistics(FormWindow& window) {
 
 void layOutWeapons(FormWindow& window, const WeaponHeadings& headings) {
   QGridLayout& grid = *gridIn(window, window.at("fbron"), 10, 4);
+  window.unit().spacing(grid, 8, 4);
   grid.addWidget(&label(window, "Label3", Type::heading), 0, 0, 1, 2);
   layOutDesk(window, grid, 0, kMelee, headings.melee);
-  window.unit().column(grid, 2, 10);
+  window.unit().column(grid, 2, 6);
   layOutDesk(window, grid, 3, kRanged, headings.ranged);
   grid.setRowStretch(2, 1);
 }
 
 void layOutSpells(FormWindow& window) {
   QGridLayout& grid = *gridIn(window, window.at("fczar"), 10, 3);
-  window.unit().spacing(grid, 8, 3);
+  window.unit().spacing(grid, 7, 5);
   grid.addWidget(&label(window, "Label4(1)", Type::heading), 0, 0);
   // Name, price, description: the prices stand between, where the eye compares them.
   constexpr std::array<int, 3> columns = {0, 2, 1};
@@ -158,23 +166,27 @@ void layOutSpells(FormWindow& window) {
 
 void layOutGear(FormWindow& window) {
   QGridLayout& grid = *gridIn(window, window.at("Frame4"), 10, 4);
-  grid.addWidget(&label(window, "Label4(2)", Type::heading), 0, 0, 1, 7);
+  constexpr int kCount = kButtonColumn + 2;
+  constexpr int kName = kCount + 2;
+  constexpr int kPrice = kName + 1;
+  grid.addWidget(&label(window, "Label4(2)", Type::heading), 0, 0, 1, kPrice + 1);
   for (int i = 0; i < kSupplies; ++i) {
     QLabel& count = alignRight(window.at<QLabel>("wyp", i));
     makeBold(count);
     window.unit().atLeast(count, 44, 0);
     grid.addWidget(&window.at<QLabel>(i == kGrenade ? "Label17" : "ammo"), i + 1, 0);
     addButtons(window, grid, i + 1, kStatistics + i);
-    grid.addWidget(&count, i + 1, 3);
+    grid.addWidget(&count, i + 1, kCount);
   }
   for (int i = 0; i < kGear; ++i) {
-    grid.addWidget(&window.at<ClickLabel>("Spec", i), i + 1, 5);
-    grid.addWidget(&alignRight(window.at<QLabel>("Speccena", i)), i + 1, 6);
+    grid.addWidget(&window.at<ClickLabel>("Spec", i), i + 1, kName);
+    grid.addWidget(&alignRight(window.at<QLabel>("Speccena", i)), i + 1, kPrice);
     window.unit().row(grid, i + 1, 26);
   }
-  window.unit().column(grid, 4, 48);
-  window.unit().column(grid, 5, 110);
-  grid.setColumnStretch(7, 1);
+  window.unit().column(grid, kGapColumn, kGap);
+  window.unit().column(grid, kCount + 1, 40);
+  window.unit().column(grid, kName, 110);
+  grid.setColumnStretch(kPrice + 1, 1);
 }
 
 }  // namespace brolgan::desktop

@@ -142,9 +142,10 @@ QFrame* monster(FormWindow& window) {
 struct Action {
   const char* list;
   const char* button;
+  const char* beside = nullptr;  // a box beside the list
 };
 
-constexpr std::array kActions = {Action{"Bron", "Atak"}, Action{"Czar", "Rzuc"}, Action{"Przedmiot", "Uzyj"}};
+constexpr std::array kActions = {Action{"Bron", "Atak"}, Action{"Czar", "Rzuc", "mana"}, Action{"Przedmiot", "Uzyj"}};
 
 QFrame* actions(FormWindow& window) {
   QFrame* const frame = panel(window);
@@ -156,15 +157,17 @@ QFrame* actions(FormWindow& window) {
     auto& button = window.at<QPushButton>(action.button);
     window.unit().atLeast(list, 160, 32);
     window.unit().atLeast(button, 110, 38);
-    grid.addWidget(&list, 0, column);
+    grid.addWidget(&list, 0, column, 1, action.beside == nullptr ? 2 : 1);
     grid.addWidget(&button, 1, column, 1, 2);
+    if (action.beside != nullptr) {
+      auto& box = window.at<QLineEdit>(action.beside);
+      window.unit().fixed(box, 52, 32);
+      grid.addWidget(&box, 0, column + 1);
+    }
     grid.setColumnStretch(column, 1);
     window.unit().column(grid, column + 2, 18);
     column += 3;
   }
-  auto& mana = window.at<QLineEdit>("mana");
-  window.unit().fixed(mana, 52, 32);
-  grid.addWidget(&mana, 0, 4);
   auto& next = window.at<QPushButton>("NastTura");
   setType(window, next, Type::heading);
   window.unit().atLeast(next, 190, 76);

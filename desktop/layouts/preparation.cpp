@@ -15,6 +15,8 @@ constexpr int kRow = 30;
 // The plate of a title that stands above its panel.
 constexpr int kPlate = 16;
 constexpr QMargins kWithin(14, 18, 14, 10);
+// A line of words above and below what is used or cast.
+constexpr int kLine = 20;
 
 // A name beside its value, in a row of their own.
 void addFigure(FormWindow& window, QGridLayout& grid, int row, const std::string& heading, const std::string& value,
@@ -22,6 +24,14 @@ void addFigure(FormWindow& window, QGridLayout& grid, int row, const std::string
   grid.addWidget(&window.at<QLabel>(heading), row, 0);
   grid.addWidget(&figure(window, value, type), row, 1);
   window.unit().row(grid, row, kRow);
+}
+
+// What lies in a row of its own, between two lines of words.
+QGridLayout* betweenLines(FormWindow& window, QWidget& box) {
+  auto* const grid = within<QGridLayout>(window, box, kWithin, 6);
+  for (const int row : {0, 2}) window.unit().row(*grid, row, kLine);
+  grid->setColumnStretch(0, 1);
+  return grid;
 }
 
 // The monster in a frame of its own, as in the fight.
@@ -73,19 +83,21 @@ QWidget* hero(FormWindow& window) {
 
 QWidget* items(FormWindow& window) {
   QWidget& box = window.at("Frame2");
-  auto* row = within<QHBoxLayout>(window, box, kWithin, 6);
+  QGridLayout& grid = *betweenLines(window, box);
   auto& list = window.at<QComboBox>("Przedmioty");
   auto& use = window.at<QPushButton>("Uzyj");
   window.unit().atLeast(list, 160, 34);
   window.unit().atLeast(use, 84, 34);
-  row->addWidget(&list, 1);
-  row->addWidget(&use);
+  // No words, but their lines, so that both boxes are alike.
+  for (const int line : {0, 2}) grid.addWidget(new QWidget, line, 0);
+  grid.addWidget(&list, 1, 0);
+  grid.addWidget(&use, 1, 1);
   return &box;
 }
 
 QWidget* spells(FormWindow& window) {
   QWidget& box = window.at("Frame1");
-  QGridLayout& grid = *within<QGridLayout>(window, box, kWithin, 6);
+  QGridLayout& grid = *betweenLines(window, box);
   auto& list = window.at<QComboBox>("Czary");
   auto& cost = window.at<QLineEdit>("Koszt");
   auto& cast = window.at<QPushButton>("Rzuc");
@@ -97,8 +109,6 @@ QWidget* spells(FormWindow& window) {
   grid.addWidget(&cost, 1, 1);
   grid.addWidget(&cast, 1, 2);
   grid.addWidget(&window.at<QLabel>("KosztInfo"), 2, 0, 1, 3);
-  window.unit().row(grid, 2, 19);
-  grid.setColumnStretch(0, 1);
   return &box;
 }
 

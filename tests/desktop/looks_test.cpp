@@ -6,10 +6,13 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
 #include <QTest>
 #include <set>
+#include <string>
+#include <tuple>
 
 #include "desktop/emblem.h"
 #include "desktop/theme.h"
@@ -195,6 +198,74 @@ TEST(Looks, AMonsterWithoutAHeadHasItsNameAlone) {
   EXPECT_GE(words, 0);
   EXPECT_LT(words, stage.window("FHero").unit().pixels(12));
   EXPECT_TRUE(stage.errors.empty());
+}
+
+TEST(Looks, WhatIsUsedStandsInOneRowWithWhatIsCast) {
+  Stage stage;
+  setPreparation(stage.world, richHero());
+  stage.open({"Prefight"});
+  const auto place = [&](const char* name) { return placeOf(stage.at("Prefight", name)); };
+  for (const char* const name : {"Uzyj", "Rzuc", "Czary"}) {
+    EXPECT_EQ(place(name).top(), place("Przedmioty").top()) << name;
+    EXPECT_EQ(place(name).bottom(), place("Przedmioty").bottom()) << name;
+  }
+}
+
+TEST(Looks, AListOfTheFightIsAsWideAsItsButton) {
+  Stage stage;
+  setFight(stage.world, richHero());
+  stage.open({"Fight"});
+  const auto place = [&](const char* name) { return placeOf(stage.at("Fight", name)); };
+  for (const auto& [list, last, button] : {std::tuple("Bron", "Bron", "Atak"), std::tuple("Czar", "mana", "Rzuc"),
+                                           std::tuple("Przedmiot", "Przedmiot", "Uzyj")}) {
+    EXPECT_EQ(place(list).left(), place(button).left()) << list;
+    EXPECT_EQ(place(last).right(), place(button).right()) << list;
+  }
+}
+
+// From the end of the words of a label to the widget behind it, in units.
+qreal gapBehind(const Stage& stage, const std::string& form, const std::string& name, const std::string& behind) {
+  const auto& words = stage.get<QLabel>(form, name);
+  const int end = placeOf(words).left() + words.fontMetrics().horizontalAdvance(words.text());
+  return (placeOf(stage.at(form, behind)).left() - end) / stage.window(form).unit().value();
+}
+
+TEST(Looks, ANameStandsClearOfWhatFollowsIt) {
+  Stage stage;
+  setShop(stage.world, richHero());
+  setCreation(stage.world, 20);
+  stage.open({"CTsklep", "CTmhero"});
+  for (const char* const form : {"CTsklep", "CTmhero"}) {
+    EXPECT_GT(gapBehind(stage, form, "Label6(1)", "BWdmg"), 6) << form;
+    EXPECT_GT(gapBehind(stage, form, "ammo", form == std::string("CTsklep") ? "PLUS(8)" : "MINUS(8)"), 8) << form;
+  }
+  EXPECT_GT(gapBehind(stage, "CTmhero", "Label5(5)", "MINUS(5)"), 8);
+}
+
+// The first column of a widget in which something dark stands behind its edge.
+int firstInk(QWidget& widget) {
+  const QImage shown = widget.grab().toImage();
+  const int edge = qRound(6 * widget.devicePixelRatioF());
+  for (int x = edge; x < shown.width(); ++x) {
+    for (int y = edge; y < shown.height() - edge; ++y) {
+      if (shown.pixelColor(x, y).lightness() < 128) return x;
+    }
+  }
+  return -1;
+}
+
+TEST(Looks, TheWordsOfAListBeginWhereThoseOfAFieldDo) {
+  Stage stage;
+  setPreparation(stage.world, richHero());
+  stage.open({"Prefight"});
+  auto& list = stage.get<QComboBox>("Prefight", "Czary");
+  auto& field = stage.get<QLineEdit>("Prefight", "Koszt");
+  list.addItem("Hydra");
+  list.setCurrentIndex(list.count() - 1);
+  field.setText("Hydra");
+  field.clearFocus();
+  ASSERT_GT(firstInk(field), 0);
+  EXPECT_NEAR(firstInk(list), firstInk(field), 1);
 }
 
 TEST(Looks, TheRowsThatDropDownAreWhole) {
