@@ -1,7 +1,7 @@
 // Plays the game at its own widgets and prints what can be seen from inside, one figure a line.
 // Runs in a folder with the game's files, and writes heroes there.
 //
-//   bench_inside game   two sessions through all screens
+//   bench_inside game   two sessions through all screens, and a third that pulls their windows
 //   bench_inside bare   the same click between two windows of one label each
 #include <unistd.h>
 
@@ -57,6 +57,10 @@ void playGame(bench::Probe& probe) {
   const bench::Memory memory = bench::memoryOf(getpid());
   print("resident_after_all_kb", static_cast<double>(memory.residentKb));
   print("peak_after_all_kb", static_cast<double>(memory.peakKb));
+  time = "third";
+  session.open();
+  session.playAndPull();
+  print("peak_after_pulling_kb", static_cast<double>(bench::memoryOf(getpid()).peakKb));
 }
 
 // A window of the size of the largest screen, with one button.
@@ -100,10 +104,12 @@ void changeBareWindows(bench::Probe& probe) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  const bool isGame = argc == 2 && std::string(argv[1]) == "game";
+  if (isGame) desktop::PictureStore::keepMemorySmall();  // As the game itself does.
   bench::Probe probe(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   try {
-    if (argc == 2 && std::string(argv[1]) == "game") {
+    if (isGame) {
       desktop::theme::apply(probe);
       playGame(probe);
     } else {

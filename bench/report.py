@@ -15,6 +15,7 @@ CHANGES = [
     "fight to shop",
     "opening the sheet",
 ]
+PULLED = ["creation", "shop", "preparation", "fight"]
 
 
 def read_figures(path):
@@ -76,11 +77,14 @@ def fill(table, figures):
     floor_peak = kilobytes(median(figures, "floor", "peak_kb"))
     game_peak = kilobytes(median(figures, "game", "peak_after_all_kb"))
     table.add_ratio("peak after all forms", "MB", floor_peak, game_peak, 2.0)
+    pulled_peak = kilobytes(median(figures, "game", "peak_after_pulling_kb"))
+    table.add("peak after each was pulled", "MB", floor_peak, pulled_peak, "-", None, True)
     bare = median(figures, "floor", "bare change")
     for change in CHANGES:
         table.add_limit(f"{change}, second time", "ms", bare, median(figures, "game", f"change second: {change}"), 16)
-    pulled = median(figures, "game", "change second: frame of the pulled fight")
-    table.add_limit("slowest frame of a window that is pulled", "ms", None, pulled, 16)
+    for screen in PULLED:
+        pulled = median(figures, "game", f"change third: frame of the pulled {screen}")
+        table.add_limit(f"slowest frame while the {screen} is pulled", "ms", None, pulled, 16)
     for change in CHANGES:
         game = median(figures, "game", f"change first: {change}")
         table.add(f"{change}, first time", "ms", bare, game, "-", None)

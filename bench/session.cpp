@@ -16,17 +16,26 @@ void Session::open() {
   probe_.rest();
 }
 
+void Session::playAndPull() {
+  pulls_ = true;
+  play();
+  pulls_ = false;
+}
+
 void Session::play() {
   typeBudget();
   change("set-up to creation", "Main", "GraczM(0)", "CTmhero");
+  pull("creation", "CTmhero");
   makeHero();
   change("creation to set-up", "CTmhero", "Save", "Main");
   change("set-up to shop", "Main", "Start", "CTsklep");
+  pull("shop", "CTsklep");
   visitShop();
   change("shop to preparation", "CTsklep", "w1", "Prefight");
+  pull("preparation", "Prefight");
   prepare();
   change("preparation to fight", "Prefight", "Zakoncz", "Fight");
-  pull("Fight");
+  pull("fight", "Fight");
   fight();
   face_.window("CTsklep")->close();
   probe_.rest();
@@ -80,7 +89,8 @@ void Session::fight() {
 }
 
 // Makes the window smaller step by step, as a hand at its corner does, and as large as it was.
-void Session::pull(const std::string& form) {
+void Session::pull(const std::string& screen, const std::string& form) {
+  if (!pulls_) return;
   constexpr int kFrames = 16;
   constexpr QSize kStep(24, 13);
   QWidget& window = *face_.window(form);
@@ -92,7 +102,7 @@ void Session::pull(const std::string& form) {
     if (!ms) throw std::runtime_error(form + " is not painted when it is pulled");
     slowestMs = std::max(slowestMs, *ms);
   }
-  listener_("frame of the pulled fight", slowestMs);
+  listener_("frame of the pulled " + screen, slowestMs);
   probe_.rest();
 }
 

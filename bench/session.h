@@ -24,6 +24,8 @@ class Session {
   void open();
   // Plays from the set-up to the shop after the first fight, and closes the shop.
   void play();
+  // Does the same, and pulls the window of each large screen on the way.
+  void playAndPull();
 
  private:
   void change(const std::string& change, const std::string& form, const char* control, const char* to);
@@ -36,13 +38,14 @@ class Session {
   void visitShop();
   void prepare();
   void fight();
-  void pull(const std::string& form);
+  void pull(const std::string& screen, const std::string& form);
   [[nodiscard]] QWidget* widget(const std::string& form, const std::string& control) const;
 
   Probe& probe_;
   Runtime& runtime_;
   desktop::Face& face_;
   Listener listener_;
+  bool pulls_ = false;
 };
 
 }  // namespace brolgan::bench
