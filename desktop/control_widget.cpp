@@ -105,6 +105,16 @@ struct Maker {
   }
 };
 
+// The font of a widget, as one to be set anew: letters of the size of those around it go on following them.
+QFont fontOf(const QWidget& widget) {
+  QFont font = widget.font();
+  const QWidget* const around = widget.parentWidget();
+  if (around != nullptr && around->font().pointSizeF() == font.pointSizeF()) {
+    font.setResolveMask(font.resolveMask() & ~static_cast<unsigned>(QFont::SizeResolved));
+  }
+  return font;
+}
+
 // Red text is bold, so that it stays readable on the light panels, and underlined, so that it is told by
 // more than its colour.
 void setColour(QWidget& widget, Colour colour) {
@@ -113,7 +123,7 @@ void setColour(QWidget& widget, Colour colour) {
   if (palette.color(QPalette::Active, QPalette::WindowText) == wanted) return;
   for (const auto group : {QPalette::Active, QPalette::Inactive}) palette.setColor(group, QPalette::WindowText, wanted);
   widget.setPalette(palette);
-  QFont font = widget.font();
+  QFont font = fontOf(widget);
   font.setBold(colour == Colour::red || widget.property(kIsBold).toBool());
   font.setUnderline(colour == Colour::red);
   widget.setFont(font);

@@ -96,6 +96,21 @@ TEST(Looks, TheEmblemIsThatOfTheClassInHand) {
   EXPECT_NE(pictureOf(stage.window("CTmhero"), QString("klasa-%1.png").arg(chosen + 1)), nullptr) << "a fresh hero";
 }
 
+TEST(Looks, WordsThatWereRedAreAsLargeAsTheirNeighboursInAWindowThatGrew) {
+  Stage stage;
+  setCreation(stage.world, 20);
+  stage.open({"CTmhero"});
+  desktop::FormWindow& window = stage.window("CTmhero");
+  const auto sizeOf = [&stage](const char* name) { return stage.at("CTmhero", name).font().pointSizeF(); };
+  const qreal before = sizeOf("stat1(0)");
+  ASSERT_EQ(sizeOf("stat1(1)"), before);
+  stage.click("CTmhero", "PLUS(0)");
+  window.resize(window.size() * 1.4);
+  Stage::settle();
+  EXPECT_GT(sizeOf("stat1(4)"), before * 1.2);
+  for (const char* const name : {"stat1(0)", "stat1(1)"}) EXPECT_EQ(sizeOf(name), sizeOf("stat1(4)")) << name;
+}
+
 TEST(Looks, EachZoneHasATintAndAnEmblemOfItsOwn) {
   Stage stage;
   setShop(stage.world, richHero());

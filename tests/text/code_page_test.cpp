@@ -75,6 +75,7 @@ TEST(CodePage, CharactersOfTheControlRangeAreNotTheBytesOfTheirNumbers) {
 
 TEST(CodePage, MalformedTextBecomesQuestionMarksAndNothingIsReadBehindItsEnd) {
   EXPECT_EQ(toCodePage("a\x80z"), "a?z");
+  EXPECT_EQ(toCodePage("\x85\x84"), "??");
   EXPECT_EQ(toCodePage("\xC5"), "?");
   EXPECT_EQ(toCodePage("\xC5z"), "?z");
   EXPECT_EQ(toCodePage("\xF0\x9F\x98"), "?");

@@ -66,6 +66,14 @@ TEST_F(DiskFilesTest, WritesEveryByteAsItIs) {
   EXPECT_EQ(files.read("plik.txt"), allBytes());
 }
 
+TEST_F(DiskFilesTest, ANewFileIsForWhomTheMaskOfTheProcessLetsReadAndWriteIt) {
+  const mode_t before = umask(027);
+  files.create("plik.txt");
+  umask(before);
+  EXPECT_EQ(fs::status("plik.txt").permissions(),
+            fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+}
+
 TEST_F(DiskFilesTest, AppendsBehindWhatIsThere) {
   files.create("plik.txt");
   files.append("plik.txt", "a");

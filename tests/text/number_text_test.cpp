@@ -109,6 +109,7 @@ TEST(ParseNumber, LengthAndExponentAreWeighedTogether) {
   EXPECT_EQ(parseNumber("1" + std::string(400, '0') + "E-400"), 1);
   EXPECT_EQ(parseNumber("1" + std::string(800, '0') + "E-100"), HUGE_VAL);
   EXPECT_EQ(parseNumber("0." + std::string(799, '0') + "1E+100"), 0);
+  EXPECT_EQ(parseNumber("1" + std::string(2400, '0') + "E-2000"), HUGE_VAL);
 }
 
 class ParseWord : public testing::TestWithParam<const char*> {};
