@@ -23,9 +23,9 @@ target_compile_options(brolgan_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-r
 if(EMSCRIPTEN)
   # Its standard library is older than the language; web/older_library.h fills the gaps.
   target_compile_options(brolgan_options INTERFACE
-    -fexceptions -Wno-unused-lambda-capture -include ${PROJECT_SOURCE_DIR}/web/older_library.h
-    $<$<CONFIG:Release>:-Os>)
-  target_link_options(brolgan_options INTERFACE -fexceptions)
+    -fwasm-exceptions -Wno-unused-lambda-capture -include ${PROJECT_SOURCE_DIR}/web/older_library.h
+    $<$<CONFIG:Release>:-Oz> $<$<CONFIG:Release>:-flto>)
+  target_link_options(brolgan_options INTERFACE -fwasm-exceptions $<$<CONFIG:Release>:-Oz> $<$<CONFIG:Release>:-flto>)
 endif()
 if(BROLGAN_SANITIZE STREQUAL "address")
   set(sanitizers address,undefined)

@@ -1,17 +1,20 @@
 #!/usr/bin/env python3
 """Makes one page of all screens: assemble.py OUT SIZES puts index.html and style.css into the folder OUT.
 
-In a screen an id is the name of a control. each="0..3" repeats an element, # being the number; picture="x.png"
-shows a picture of the game in the size that its place needs; SIZES tells how large each picture is."""
+In a screen an id is the name of a control. each="0..3" repeats an element, # being the number and #+1 the next;
+picture="x.png" shows a picture of the game in the size that its place needs; SIZES tells how large each is."""
 import html
 import html.parser
 import json
 import pathlib
+import re
 import sys
 
 HERE = pathlib.Path(__file__).parent
 # The title lies behind; the sheet comes last, over the others.
 SCREENS = ["Brolgan", "Main", "CTmhero", "CTsklep", "Prefight", "Fight", "FHero"]
+# Those that are seen at the start; the pictures of the others can wait.
+FIRST = {"Brolgan", "Main"}
 VOID = {"img", "input", "source", "br"}
 
 
@@ -43,10 +46,11 @@ class Tree(html.parser.HTMLParser):
 
 
 def numbered(node, number):
+    fill = lambda text: text.replace("#+1", str(int(number) + 1)).replace("#", number)
     if isinstance(node, str):
-        return node.replace("#", number)
+        return fill(node)
     tag, attrs, children = node
-    named = {name: value and value.replace("#", number) for name, value in attrs.items()}
+    named = {name: value and fill(value) for name, value in attrs.items()}
     return [tag, named, [numbered(child, number) for child in children]]
 
 
@@ -84,7 +88,7 @@ def control(node, form, sizes):
     named = {name: f"{form}.{value}" if name in ("id", "for") and value not in (form, "anew") else value
              for name, value in attrs.items()}
     if tag == "img":
-        return picture(named, sizes)
+        return picture(named if form in FIRST else {"loading": "lazy", **named}, sizes)
     return [tag, named, [control(child, form, sizes) for child in children]]
 
 
@@ -97,6 +101,18 @@ def text_of(node):
     return f"<{tag}{words}>" if tag in VOID else f"<{tag}{words}>{inner}</{tag}>\n"
 
 
+def heads(sizes):
+    """The rows of what is beaten, each with the head of its monster."""
+    names = sorted(name for name in sizes if name.startswith("glowa-"))
+    return "".join(f'[data-picture="{name[6:]}"] {{ background-image: url({name[:-4]}.webp); }}\n' for name in names)
+
+
+def tight(sheet):
+    """A style without what is for its readers alone."""
+    words = re.sub(r"\s+", " ", re.sub(r"/\*.*?\*/", "", sheet, flags=re.DOTALL))
+    return re.sub(r" ?([{};,]) ?", r"\1", words).replace(";}", "}")
+
+
 def screen(name, sizes):
     roots = [one for root in Tree((HERE / "screens" / f"{name}.html").read_text("utf-8")).roots for one in repeated(root)]
     return "".join(text_of(control(root, name, sizes)) for root in roots)
@@ -107,7 +123,7 @@ def main():
     shell = (HERE / "page.html").read_text("utf-8")
     (out / "index.html").write_text(shell.replace("<!-- screens -->", "".join(screen(name, sizes) for name in SCREENS)), "utf-8")
     sheets = [HERE / "page.css", HERE / "departments.css", *(HERE / "screens" / f"{name}.css" for name in SCREENS)]
-    (out / "style.css").write_text("".join(sheet.read_text("utf-8") for sheet in sheets), "utf-8")
+    (out / "style.css").write_text(tight("".join(sheet.read_text("utf-8") for sheet in sheets) + heads(sizes)), "utf-8")
 
 
 if __name__ == "__main__":

@@ -13,6 +13,10 @@ namespace brolgan::web {
 
 namespace {
 
+// The screens behind the set-up, the sooner to be seen the earlier.
+constexpr std::array kLater = {screens::kCreation, screens::kShop, screens::kPreparation, screens::kFight,
+                               screens::kSheet};
+
 // Files lie in the page's memory; those that it brings are looked for in the folder that it came from.
 std::string folderOf(const std::string& file) {
   std::array<char, 2048> address{};
@@ -30,6 +34,16 @@ void Face::start() {
   offerScreens(*runtime_, random_);
   page_ended(false);
   act([this] { runtime_->Show(screens::kStart); });
+}
+
+bool Face::prepare() {
+  for (const char* const name : kLater) {
+    const auto [place, isNew] = pages_.try_emplace(name, name);
+    if (!isNew) continue;
+    place->second.prepare(*runtime_->make(name));
+    return true;
+  }
+  return false;
 }
 
 void Face::act(const std::function<void()>& doing) {

@@ -24,6 +24,10 @@ class Face {
   // Opens the start form and with it the game; after an end, anew.
   void start();
 
+  // Lays one of the screens out that have not been seen yet, so that it opens at once; false when there is
+  // none left.
+  bool prepare();
+
   // What a person did to an element, by its id; nothing happens when no open form has it.
   void click(std::string_view id);
   void select(std::string_view id, int row);

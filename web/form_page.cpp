@@ -138,7 +138,19 @@ void FormPage::bind(Form& form) {
   }
 }
 
+void FormPage::prepare(Form& fresh) {
+  bind(fresh);
+  mirror();
+  release();
+  page_ready(name_.c_str());
+}
+
 void FormPage::mirrorAll() {
+  mirror();
+  tellNews();
+}
+
+void FormPage::mirror() {
   if (title_ != form_->Caption) {
     title_ = form_->Caption;
     page_title(name_.c_str(), title_.c_str());
@@ -153,7 +165,6 @@ void FormPage::mirrorAll() {
     mirror.voice(name_, entries[i]);
     if (entries[i].name == kMonsterPicture) mirror.dim(isDim);
   }
-  tellNews();
 }
 
 // What happens is heard and felt; the monster answers a blow.

@@ -35,6 +35,8 @@ class FormPage {
 
   // Shows another form of the same kind from now on, as fresh as it was loaded.
   void bind(Form& form);
+  // Makes the elements as those of a fresh form, which may be gone then, and lays them out unseen.
+  void prepare(Form& fresh);
   // Forgets a form that is gone; another may come to lie at its address.
   void release() { form_ = nullptr; }
   [[nodiscard]] const Form* form() const { return form_; }
@@ -57,6 +59,7 @@ class FormPage {
 
  private:
   [[nodiscard]] std::string idOf(const std::string& control) const { return name_ + "." + control; }
+  void mirror();
   void tellNews();
 
   std::string name_;

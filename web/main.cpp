@@ -39,6 +39,7 @@ extern "C" {
 
 // The page calls these; ids and texts are UTF-8.
 EMSCRIPTEN_KEEPALIVE void game_start() { program().face.start(); }
+EMSCRIPTEN_KEEPALIVE bool game_prepare() { return program().face.prepare(); }
 EMSCRIPTEN_KEEPALIVE void game_click(const char* id) { program().face.click(id); }
 EMSCRIPTEN_KEEPALIVE void game_select(const char* id, int row) { program().face.select(id, row); }
 EMSCRIPTEN_KEEPALIVE void game_type(const char* id, const char* text) { program().face.type(id, text); }

@@ -6,6 +6,8 @@ extern "C" {
 
 // Makes a form seen or unseen.
 void page_show(const char* form, bool shown);
+// Lays a form out unseen.
+void page_ready(const char* form);
 // The title of a form's window.
 void page_title(const char* form, const char* title);
 // Puts back what a person scrolled or selected in a form, as a fresh form has it.

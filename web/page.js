@@ -3,13 +3,15 @@ mergeInto(LibraryManager["library"], {
   $page: {
     data: {},       // The files beside the page, by name, as they were before the start.
     players: {},
+    scrolled: [],  // what has been scrolled since its form was fresh
 
     element: (id) => document.getElementById(UTF8ToString(id)),
     call: (name, kinds, ...values) => ccall(name, 'number', kinds, values),
     url: (name) => name.replace(/\\/g, '/').split('/').map(encodeURIComponent).join('/'),
 
     // A keyboard on the screen would cover what a person came to see, so it waits for a touch.
-    isTouched: () => matchMedia('(pointer: coarse)').matches,
+    touch: null,
+    isTouched: () => (page.touch ||= matchMedia('(pointer: coarse)')).matches,
     focus: (form, element) => {
       const isUnasked = element && page.isTouched() && element.matches('input[type=text], textarea');
       if (element && !isUnasked) element.focus({ preventScroll: page.isTouched() });
@@ -81,6 +83,8 @@ mergeInto(LibraryManager["library"], {
       document.addEventListener('focusin', (event) => page.call('game_focus', ['string'], event.target.id));
       document.addEventListener('animationend', (event) => delete event.target.dataset.move);
       document.addEventListener('keydown', page.press);
+      // To look what stands scrolled would have the browser lay the page out.
+      document.addEventListener('scroll', (event) => page.scrolled.push(event.target), true);
       document.querySelector('#error').addEventListener('close', () => page.call('game_over', []));
     },
 
@@ -112,11 +116,13 @@ mergeInto(LibraryManager["library"], {
       };
     },
 
-    // Has the service worker keep the game once the title is there, so that it takes nothing from the start.
-    keep: () => {
-      const register = () => navigator.serviceWorker.register('worker.js');
-      if (document.readyState === 'complete') register();
-      else addEventListener('load', register);
+    // Does something when the browser has nothing else to do.
+    later: (doing) => (globalThis.requestIdleCallback || setTimeout)(doing),
+    // Once the title is there: lays the other screens out, one at a time, and then has the service worker
+    // keep the game.
+    prepare: () => {
+      if (page.call('game_prepare', [])) page.later(page.prepare);
+      else if (!Module['_game_seed'] && 'serviceWorker' in navigator) navigator.serviceWorker.register('worker.js');
     },
 
     begin: () => {
@@ -127,14 +133,20 @@ mergeInto(LibraryManager["library"], {
       });
       Module['onRuntimeInitialized'] = () => {
         if (Module['_game_seed']) page.open();
-        else if ('serviceWorker' in navigator) page.keep();
+        setTimeout(() => page.later(page.prepare), 500);
       };
     },
   },
   $page__postset: 'page.begin();',
 
   page_show__deps: ['$page'],
-  page_show: function (id, shown) { page.element(id).hidden = !shown; },
+  page_show: function (id, shown) {
+    const form = page.element(id);
+    form.hidden = !shown;
+    form.dataset.ready = '';
+  },
+  page_ready__deps: ['$page'],
+  page_ready: function (id) { page.element(id).dataset.ready = ''; },
   page_title__deps: ['$page'],
   page_title: function (id, title) {
     const form = page.element(id);
@@ -144,9 +156,8 @@ mergeInto(LibraryManager["library"], {
   page_refresh__deps: ['$page'],
   page_refresh: function (id) {
     const form = page.element(id);
-    for (const part of [form, ...form.querySelectorAll('*')]) {
-      if (part.scrollTop) part.scrollTop = 0;
-    }
+    for (const part of page.scrolled.filter((one) => form.contains(one))) part.scrollTop = 0;
+    page.scrolled = page.scrolled.filter((one) => !form.contains(one));
   },
   page_text__deps: ['$page'],
   page_text: function (id, text) { return page.setText(page.element(id), UTF8ToString(text)); },

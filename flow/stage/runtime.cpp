@@ -5,11 +5,15 @@
 
 namespace brolgan {
 
-void Runtime::Load(std::string_view name) {
-  if (ended_ || find(name) != nullptr) return;
+std::unique_ptr<Form> Runtime::make(std::string_view name) {
   const auto maker = makers_.find(name);
   if (maker == makers_.end()) throw std::logic_error("no form " + std::string(name));
-  loaded_.emplace_back(name, maker->second(*this));
+  return maker->second(*this);
+}
+
+void Runtime::Load(std::string_view name) {
+  if (ended_ || find(name) != nullptr) return;
+  loaded_.emplace_back(name, make(name));
   Form& form = *loaded_.back().second;
   raise([&form] { form.Form_Load(); });
 }

@@ -38,7 +38,9 @@ class Runtime {
   // Makes a form known under its name.
   void offer(std::string name, Maker maker) { makers_[std::move(name)] = std::move(maker); }
 
-  // Creates the form with its design values and runs its load handler, if it is not loaded yet.
+  // The form with its design values alone: neither loaded nor known to any other.
+  [[nodiscard]] std::unique_ptr<Form> make(std::string_view name);
+  // Makes the form and runs its load handler, if it is not loaded yet.
   void Load(std::string_view name);
   // Runs the unload handler and takes the form away; harmless when it is not loaded.
   void Unload(std::string_view name);
