@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
-"""Makes one page of all screens: assemble.py OUT SIZES puts index.html and style.css into the folder OUT.
+"""Makes one page of all screens: assemble.py OUT SIZES puts index.html into the folder OUT.
 
 In a screen an id is the name of a control. each="0..3" repeats an element, # being the number and #+1 the next;
 picture="x.png" shows a picture of the game in the size that its place needs; SIZES tells how large each is."""
+import base64
+import hashlib
 import html
 import html.parser
 import json
@@ -118,12 +120,25 @@ def screen(name, sizes):
     return "".join(text_of(control(root, name, sizes)) for root in roots)
 
 
+def style(sizes):
+    sheets = [HERE / "page.css", HERE / "departments.css", *(HERE / "screens" / f"{name}.css" for name in SCREENS)]
+    return tight("".join(sheet.read_text("utf-8") for sheet in sheets) + heads(sizes))
+
+
+def page(sizes):
+    """The style stands in the page, lest the page be laid out without it; the policy knows it by its digest."""
+    look = style(sizes)
+    digest = base64.b64encode(hashlib.sha256(look.encode()).digest()).decode()
+    parts = {"@STYLE@": look, "@DIGEST@": digest, "<!-- screens -->": "".join(screen(name, sizes) for name in SCREENS)}
+    text = (HERE / "page.html").read_text("utf-8")
+    for mark, part in parts.items():
+        text = text.replace(mark, part)
+    return text
+
+
 def main():
     out, sizes = pathlib.Path(sys.argv[1]), json.loads(pathlib.Path(sys.argv[2]).read_text("utf-8"))
-    shell = (HERE / "page.html").read_text("utf-8")
-    (out / "index.html").write_text(shell.replace("<!-- screens -->", "".join(screen(name, sizes) for name in SCREENS)), "utf-8")
-    sheets = [HERE / "page.css", HERE / "departments.css", *(HERE / "screens" / f"{name}.css" for name in SCREENS)]
-    (out / "style.css").write_text(tight("".join(sheet.read_text("utf-8") for sheet in sheets) + heads(sizes)), "utf-8")
+    (out / "index.html").write_text(page(sizes), "utf-8")
 
 
 if __name__ == "__main__":

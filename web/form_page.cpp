@@ -1,5 +1,7 @@
 #include "web/form_page.h"
 
+#include <algorithm>
+
 #include "game/guide/keys.h"
 #include "game/guide/spoken.h"
 #include "web/outside.h"
@@ -114,6 +116,7 @@ class Mirror {
     if (isNew) {
       page_clear(id_.c_str());
       for (const std::string& row : wanted) page_row(id_.c_str(), row.c_str());
+      shown_.isHeaded = false;
     }
     if (update(shown_.selected, list.ListIndex()) || isNew) page_selected(id_.c_str(), list.ListIndex());
   }
@@ -165,6 +168,20 @@ void FormPage::mirror() {
     mirror.voice(name_, entries[i]);
     if (entries[i].name == kMonsterPicture) mirror.dim(isDim);
   }
+  if (const auto* const sheet = dynamic_cast<const FHero*>(form_)) showHeads(*sheet);
+}
+
+// The monsters that are beaten are known by their heads.
+void FormPage::showHeads(const FHero& sheet) {
+  const auto& entries = form_->controls().entries();
+  const auto isList = [&](const ControlEntry& entry) { return entry.name == "Stwory"; };
+  const auto list = std::find_if(entries.begin(), entries.end(), isList);
+  Shown& shown = shown_.at(static_cast<std::size_t>(list - entries.begin()));
+  if (shown.isHeaded) return;
+  for (int row = 0; row < static_cast<int>(shown.rows.size()); ++row) {
+    page_head(idOf(list->fullName()).c_str(), row, sheet.pictureOfKill(row).c_str());
+  }
+  shown.isHeaded = true;
 }
 
 // What happens is heard and felt; the monster answers a blow.

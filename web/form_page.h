@@ -7,6 +7,7 @@
 
 #include "flow/stage/form.h"
 #include "game/guide/news.h"
+#include "sheet/sheet.h"
 
 namespace brolgan::web {
 
@@ -23,6 +24,7 @@ struct Shown {
   const char* tip = "";
   std::string spoken;
   std::vector<std::string> rows;
+  bool isHeaded = true;  // whether the rows have all that goes with them
   int selected = -1;
   bool isDimmed = false;
 };
@@ -60,6 +62,7 @@ class FormPage {
  private:
   [[nodiscard]] std::string idOf(const std::string& control) const { return name_ + "." + control; }
   void mirror();
+  void showHeads(const FHero& sheet);
   void tellNews();
 
   std::string name_;

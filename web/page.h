@@ -6,7 +6,7 @@ extern "C" {
 
 // Makes a form seen or unseen.
 void page_show(const char* form, bool shown);
-// Lays a form out unseen.
+// Lays a form out unseen, with its pictures.
 void page_ready(const char* form);
 // The title of a form's window.
 void page_title(const char* form, const char* title);
@@ -34,6 +34,8 @@ void page_dimmed(const char* id, bool dimmed);
 void page_clear(const char* id);
 void page_row(const char* id, const char* text);
 void page_selected(const char* id, int row);
+// Puts the head of the monster of a picture before a row.
+void page_head(const char* id, int row, const char* picture);
 // Shows a picture by its file name. Those of the game have two sizes, of which width and height are the
 // larger; 0 for any other picture.
 void page_picture(const char* id, const char* name, int width, int height);

@@ -31,6 +31,8 @@ mergeInto(LibraryManager["library"], {
     setText: (element, text) => {
       if (element.matches('input, textarea')) element.value = text;
       if (!element.matches('input[type=text], textarea')) page.captionOf(element).textContent = text;
+      // The style sets what is long the smaller: told in fours of letters, up to four of them.
+      if (element.matches('.blow')) element.dataset.length = Math.min(4, Math.ceil(text.trim().length / 4));
     },
     setPicture: (image, name, width, height) => {
       const source = image.parentElement.querySelector('source');
@@ -146,7 +148,13 @@ mergeInto(LibraryManager["library"], {
     form.dataset.ready = '';
   },
   page_ready__deps: ['$page'],
-  page_ready: function (id) { page.element(id).dataset.ready = ''; },
+  page_ready: function (id) {
+    const form = page.element(id);
+    form.dataset.ready = '';
+    for (const image of form.querySelectorAll('img')) {
+      if (image.getClientRects().length > 0) image.loading = 'eager';
+    }
+  },
   page_title__deps: ['$page'],
   page_title: function (id, title) {
     const form = page.element(id);
@@ -208,6 +216,8 @@ mergeInto(LibraryManager["library"], {
   page_row: function (id, text) { return page.element(id).add(new Option(UTF8ToString(text))); },
   page_selected__deps: ['$page'],
   page_selected: function (id, row) { page.element(id).selectedIndex = row; },
+  page_head__deps: ['$page'],
+  page_head: function (id, row, picture) { page.element(id).options[row].dataset.picture = UTF8ToString(picture); },
   page_picture__deps: ['$page'],
   page_picture: function (id, name, width, height) {
     const element = page.element(id);
