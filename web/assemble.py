@@ -106,7 +106,7 @@ def text_of(node):
 def heads(sizes):
     """The rows of what is beaten, each with the head of its monster."""
     names = sorted(name for name in sizes if name.startswith("glowa-"))
-    return "".join(f'[data-picture="{name[6:]}"] {{ background-image: url({name[:-4]}.webp); }}\n' for name in names)
+    return "".join(f'#FHero [data-picture="{name[6:]}"] {{ background-image: url({name[:-4]}.webp); }}\n' for name in names)
 
 
 def tight(sheet):

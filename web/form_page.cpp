@@ -111,6 +111,7 @@ class Mirror {
   }
   void rows(const Rows& list) const {
     std::vector<std::string> wanted;
+    wanted.reserve(static_cast<std::size_t>(list.ListCount()));
     for (int i = 0; i < list.ListCount(); ++i) wanted.push_back(list.List(i));
     const bool isNew = update(shown_.rows, wanted);
     if (isNew) {

@@ -22,7 +22,7 @@ std::string pathOf(std::string name) {
 
 // Refuses what can be no file: no name, a folder, a name in a folder that is not there.
 std::string filePath(const std::string& name) {
-  const std::string path = pathOf(name);
+  std::string path = pathOf(name);
   const std::size_t slash = path.rfind('/');
   const bool isInFolder = slash != std::string::npos;
   if (path.empty() || path == "." || path == ".." || path == kMusicFolder) fail(ErrorCode::pathAccess, name);

@@ -71,8 +71,8 @@ def go_round(page, found):
     while page.screen() == "Fight":
         is_hurt = page.script("return !document.getElementById('Fight.FDamage').hidden")
         last = page.driver.execute_async_script(CLICK, "Fight.CloseDMG" if is_hurt else "Fight.NastTura")
+        time.sleep(REST)
     found.setdefault(LAST, []).append(last)
-    time.sleep(REST)
 
 
 def changes():

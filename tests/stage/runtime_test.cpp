@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <stdexcept>
+#include <tuple>
 
 #include "tests/stage/probe_form.h"
 #include "tests/support/world.h"
@@ -284,8 +286,16 @@ TEST_F(Stage, AnErrorInAHandlerComesOutAndFormsThatWereLeavingAreGone) {
   EXPECT_EQ(diary, (Diary{"A unload visible", "A gone"}));
 }
 
+TEST_F(Stage, AFormThatIsMadeIsFreshAndKnownToNobody) {
+  const std::unique_ptr<Form> made = runtime.make("A");
+  EXPECT_NE(dynamic_cast<Probe*>(made.get()), nullptr);
+  EXPECT_EQ(diary, Diary{});
+  EXPECT_EQ(loaded(), Names{});
+}
+
 TEST_F(Stage, AFormThatNobodyOfferedIsAMistakeOfTheProgram) {
   EXPECT_THROW(runtime.Load("nieznany"), std::logic_error);
+  EXPECT_THROW(std::ignore = runtime.make("nieznany"), std::logic_error);
 }
 
 TEST_F(Stage, TheTimerIsTheClocks) {

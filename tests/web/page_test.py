@@ -92,6 +92,75 @@ class Ears(InBrowser):
             self.assertIn(blow, news)
 
 
+class Looks(InBrowser):
+    """What belongs to no control: it shows the state of those around it and takes no part in acts."""
+
+    LATER = ("CTmhero", "CTsklep", "Prefight", "Fight", "FHero")
+
+    def emblem(self):
+        return self.page.script(
+            "return [...document.querySelectorAll('#CTmhero .classes img')].map((one) => one.getClientRects().length > 0 ? "
+            "new URL(one.src).pathname : '').filter((name) => name !== '')")
+
+    def test_the_screens_to_come_are_laid_out_unseen_once_the_title_is_there(self):
+        self.page.wait("document.querySelectorAll('dialog[data-ready][hidden]').length === 5")
+        for form in self.LATER:
+            laid, words, seen = self.page.script(
+                "const form = document.getElementById(arguments[0]); return [form.querySelector('.body, .actions').offsetHeight,"
+                " form.textContent.length, form.checkVisibility({ visibilityProperty: true })]", form)
+            self.assertGreater(laid, 50, form)
+            self.assertGreater(words, 50, form)
+            self.assertFalse(seen, form)
+        self.assertEqual(sorted(self.page.shown()), ["Brolgan", "Main"])
+
+    def test_every_player_has_his_shield_and_every_class_its_emblem(self):
+        shields = self.page.script("return [...document.querySelectorAll('#Main .shield img')].map((one) => one.currentSrc)")
+        self.assertEqual([name.rsplit("/", 1)[1] for name in shields], [f"tarcza-{i}-s.webp" for i in range(1, 5)])
+        self.page.click("Main", "gracz(0)")
+        for number in range(10):
+            self.page.click("CTmhero", f"Klasa({number})")
+            self.assertEqual(self.emblem(), [f"/klasa-{number + 1}.png"])
+
+    def test_every_zone_has_its_own_tint_and_emblem(self):
+        self.page.click("Main", "gracz(0)")
+        self.page.click("CTmhero", "Save")
+        self.page.click("Main", "Start")
+        looks = self.page.script(
+            "return [...Array(12).keys()].map((i) => { const zone = document.getElementById(`CTsklep.w${i + 1}`);"
+            " const emblem = getComputedStyle(zone, '::before');"
+            " return [getComputedStyle(zone).backgroundColor, emblem.backgroundImage, emblem.backgroundPositionX]; })")
+        self.assertEqual(len({tint for tint, _, _ in looks}), 12)
+        self.assertEqual(len({place for _, _, place in looks}), 12)
+        self.assertTrue(all("strefy.webp" in image for _, image, _ in looks))
+
+    def test_what_is_beaten_stands_in_the_sheet_with_its_head(self):
+        last = None
+        self.lay_lists()
+        for number, act in enumerate(browser.acts(GAME / "whole-game.txt"), 1):
+            self.page.seed(START + 0.25 * number)
+            self.page.perform(act)
+            if last == "Fight" and self.page.screen() == "CTsklep" and self.page.script(
+                    "document.getElementById('CTsklep.Heroshow').click();"
+                    "return document.getElementById('FHero.Stwory').options.length") > 0:
+                break
+            last = self.page.screen()
+        heads = self.page.script("return [...document.getElementById('FHero.Stwory').options]"
+                                 ".map((one) => [one.dataset.picture, getComputedStyle(one).backgroundImage])")
+        self.assertTrue(heads)
+        for picture, head in heads:
+            self.assertIn(f"glowa-{picture.removesuffix('.jpg')}.webp", head)
+
+    def test_many_blows_are_told_smaller(self):
+        sizes = self.page.script(
+            "const blow = document.getElementById('Fight.IleDMG');"
+            "return [1, 2, 3, 4].map((length) => { blow.dataset.length = length; return parseFloat(getComputedStyle(blow).fontSize); })")
+        self.assertEqual(sizes, sorted(set(sizes), reverse=True))
+        self.go_to_fight()
+        self.page.click("Fight", "NastTura")
+        told, length = self.page.script("const blow = document.getElementById('Fight.IleDMG'); return [blow.textContent, blow.dataset.length];")
+        self.assertEqual(int(length), min(4, -(-len(told.strip()) // 4)))
+
+
 class Sounds(InBrowser):
     NOTE = """window.played = [];
 HTMLMediaElement.prototype.play = function () { window.played.push(new URL(this.src).pathname.slice(1)); return Promise.reject(); };"""
