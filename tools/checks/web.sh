@@ -31,7 +31,7 @@ quietly web-npm npm ci --prefix tests/web --no-audit --no-fund
 python3 tests/web/places.py build/dev/tests/web/web_table
 # The system's own python, which has the system's packages. The robot plays beside the other tests. A browser
 # that hangs ends after a while.
-limit=${BROLGAN_WEB_LIMIT:-480}
+limit=${BROLGAN_WEB_LIMIT:-1800}
 timeout -s INT -k 10 "$limit" /usr/bin/python3 tests/web/robot_test.py >build/web-robot.log 2>&1 &
 robot=$!
 trap 'kill "$robot" 2>/dev/null || true' EXIT
