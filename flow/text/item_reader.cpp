@@ -15,6 +15,17 @@ bool equalsIgnoringCase(std::string_view text, std::string_view lower) {
   return std::equal(text.begin(), text.end(), lower.begin(), lower.end(), same);
 }
 
+bool endsString(char c) { return c == ',' || c == '\r' || c == '\n'; }
+
+bool endsWord(char c) { return c == ' ' || endsString(c); }
+
+// The first place from at on that holds such a character, or the end.
+template <class Test>
+std::size_t findFrom(std::string_view text, std::size_t at, Test test) {
+  while (at < text.size() && !test(text[at])) ++at;
+  return at;
+}
+
 }  // namespace
 
 std::string Field::text() const {
@@ -31,7 +42,7 @@ std::string ItemReader::string(const Field& field) {
   skipBlanks();
   if (!atEnd() && bytes_[at_] == '"') return fromCodePage(quoted());
   const std::size_t start = at_;
-  at_ = std::min(bytes_.find_first_of(",\r\n", at_), bytes_.size());
+  at_ = findFrom(bytes_, at_, endsString);
   std::string text = fromCodePage(std::string_view(bytes_).substr(start, at_ - start));
   skipDelimiter();
   return text;
@@ -85,7 +96,9 @@ void ItemReader::fetchLine() {
   }
 }
 
-void ItemReader::skipBlanks() { at_ = std::min(bytes_.find_first_not_of(' ', at_), bytes_.size()); }
+void ItemReader::skipBlanks() {
+  at_ = findFrom(bytes_, at_, [](char c) { return c != ' '; });
+}
 
 // What stands between two items: blanks with one comma among them, or the end of the line.
 void ItemReader::skipDelimiter() {
@@ -108,7 +121,7 @@ std::string_view ItemReader::word(const Field& field) {
   begin(field);
   skipBlanks();
   const std::size_t start = at_;
-  at_ = std::min(bytes_.find_first_of(" ,\r\n", at_), bytes_.size());
+  at_ = findFrom(bytes_, at_, endsWord);
   const auto text = std::string_view(bytes_).substr(start, at_ - start);
   skipDelimiter();
   return text;

@@ -113,9 +113,22 @@ double valueOf(std::string text) {
   return result.ec == std::errc::result_out_of_range ? beyondDoubles(text) : value;
 }
 
+// A whole number of a few digits and nothing else, which needs no further look.
+std::optional<double> fewDigits(std::string_view text) {
+  constexpr std::size_t kFew = 9;
+  if (text.empty() || text.size() > kFew) return std::nullopt;
+  int value = 0;
+  for (const char c : text) {
+    if (!isDigit(c)) return std::nullopt;
+    value = value * 10 + (c - '0');
+  }
+  return value;
+}
+
 }  // namespace
 
 std::optional<double> parseNumber(std::string_view text) {
+  if (const auto number = fewDigits(text)) return number;
   if (!hasNumberForm(text)) return std::nullopt;
   return valueOf(std::string(text));
 }
