@@ -90,7 +90,7 @@ HeroNotes onAnOrdinaryDay(HeroNotes hero) {
 }
 
 Temper sensible(int rivals) {
-  constexpr std::array kCourage = {0.5, 1.0, 1.4, 1.8};
+  constexpr std::array kCourage = {1.1, 1.3, 1.4, 1.8};
   constexpr double kTemptation = 0.5;
   constexpr int kMood = 3;
   return {kCourage.at(static_cast<std::size_t>(rivals)), kTemptation, kMood};

@@ -11,11 +11,18 @@ namespace {
 
 // Zones that he climbs one by one; the gamble is not among them.
 constexpr std::array kClimb = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, kThroneZone};
+constexpr int kTop = static_cast<int>(kClimb.size()) - 1;
 // What he develops, over and over in this order.
 constexpr std::array kSteps = {kEndurance, kArmour, kModifier, kEndurance, kArmour, kSpeed, kEndurance, kPower};
 // A fight that took less of what he had felt easy; one that took more hurt.
 constexpr double kEasy = 0.3;
 constexpr double kHurt = 0.7;
+// Easy fights in a row that take him one zone on: on his last life he wants to be sure, and surer
+// still before he faces the throne.
+constexpr int kSure = 2;
+constexpr int kSureOfTheThrone = 3;
+// A weapon that costs little more than his own does not sound stronger.
+constexpr int kNoticeable = 2;
 
 }  // namespace
 
@@ -30,7 +37,7 @@ int NewcomerMind::dearestOwned() const {
 
 bool NewcomerMind::buyWeapon(DepartmentScreen& screen, int most) {
   int chosen = -1;
-  int price = known_.weapons[static_cast<std::size_t>(dearestOwned())].price;
+  int price = known_.weapons[static_cast<std::size_t>(dearestOwned())].price + kNoticeable - 1;
   for (int i = 0; i < kWeapons; ++i) {
     const Weapon& weapon = known_.weapons[static_cast<std::size_t>(i)];
     if (notes_.owned[static_cast<std::size_t>(i)] || weapon.price <= price || weapon.price > most) continue;
@@ -90,9 +97,18 @@ void NewcomerMind::act(FightScreen& screen) {
   left_ = screen.endurance();
 }
 
+int NewcomerMind::easyFightsNeeded() const {
+  if (zone_ + 1 >= kTop) return kSureOfTheThrone;
+  return notes_.lives <= 1 ? kSure : 1;
+}
+
 void NewcomerMind::hearOutcome(bool won) {
   const double lost = won ? static_cast<double>(begun_ - left_) / std::max(1, begun_) : 1;
-  if (lost < kEasy) zone_ = std::min(static_cast<int>(kClimb.size()) - 1, zone_ + 1);
+  easy_ = lost < kEasy ? easy_ + 1 : 0;
+  if (easy_ >= easyFightsNeeded()) {
+    zone_ = std::min(kTop, zone_ + 1);
+    easy_ = 0;
+  }
   if (lost > kHurt) zone_ = std::max(0, zone_ - 1);
 }
 

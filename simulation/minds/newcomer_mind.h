@@ -23,8 +23,10 @@ class NewcomerMind : public Mind {
   bool buySpells(DepartmentScreen& screen);
   void buySteps(DepartmentScreen& screen, int price);
   [[nodiscard]] int dearestOwned() const;
+  [[nodiscard]] int easyFightsNeeded() const;
 
   int zone_ = 0;
+  int easy_ = 0;   // fights in a row that felt so
   int begun_ = 0;  // the endurance that the fight began with
   int left_ = 0;
   int nextStep_ = 0;
