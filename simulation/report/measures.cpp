@@ -14,6 +14,7 @@ constexpr int kThirdZone = 2;
 void add(Danger& danger, const TurnRecord& turn) {
   danger.deaths.add(!turn.won);
   danger.oneRound.add(turn.rounds <= 1);
+  danger.costless.add(turn.lost() <= 0);
   danger.lost.add(turn.won ? std::max(0, turn.lost()) : turn.enduranceBefore);
 }
 

@@ -12,6 +12,7 @@ namespace brolgan::simulation {
 struct Danger {
   Share deaths;
   Share oneRound;
+  Share costless;
   Mean lost;  // of endurance; all that a fallen hero had
 };
 

@@ -13,6 +13,7 @@
 #include <stdexcept>
 
 #include "simulation/options.h"
+#include "simulation/report/tallies.h"
 #include "simulation/search/cma_es.h"
 #include "simulation/search/score.h"
 #include "simulation/search/shape.h"
@@ -80,12 +81,39 @@ void printZones(const Measures& all) {
   }
 }
 
+// How each monster fared, wherever it was met.
+void printMonsters(const Measures& all) {
+  std::cout << "monster\tmet\tdeaths\tone round\tcostless\tlost\n";
+  for (const Danger& monster : all.monsters) {
+    std::cout << &monster - all.monsters.data() + 1 << '\t' << monster.deaths.whole << '\t'
+              << 100 * monster.deaths.value() << '\t' << 100 * monster.oneRound.value() << '\t'
+              << 100 * monster.costless.value() << '\t' << monster.lost.value() << '\n';
+  }
+}
+
+// Which weapons were bought, and which classes won.
+void printCareers(const Knowledge& known, const Sample& sample) {
+  const Tallies tallies = tally(sample.games);
+  std::cout << "weapon\tbought\n";
+  for (int i = 0; i < kWeapons; ++i) {
+    std::cout << known.weapons[static_cast<std::size_t>(i)].name << '\t'
+              << tallies.boughtShare(brolgan::kStatistics + i) << '\n';
+  }
+  std::cout << "class\twins\n";
+  const auto shares = classShares(sample.games);
+  for (std::size_t i = 0; i < shares.size(); ++i) {
+    std::cout << brolgan::kClassTable[i].caption << '\t' << 100 * shares[i] << '\n';
+  }
+}
+
 void tryOut(const Setup& setup, const Shape& shape) {
   const DataFiles data = shaped(setup.data, shape);
   const Sample sample = playSample(data, setup.games, setup.threads, setup.seed);
   print(scoreOf(data, sample));
   const Measures all = measure(sample.games);
   printZones(all);
+  printMonsters(all);
+  printCareers(Knowledge(data), sample);
   for (const int monster : harmlessMonsters(Knowledge(data), all)) std::cout << "harmless: " << monster + 1 << '\n';
 }
 
