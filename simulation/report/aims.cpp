@@ -18,31 +18,39 @@ double percent(double part, double whole) { return whole > 0 ? 100 * part / whol
 
 std::string withPercent(double value) { return oneDigit(value) + "%"; }
 
+// "43.1% (40.2–46.0)"
+std::string withInterval(const Share& share) {
+  return withPercent(100 * share.value()) + " (" + oneDigit(100 * share.low()) + "–" + oneDigit(100 * share.high()) +
+         ")";
+}
+
 Aim lowestShare(const char* text, double wanted, const Study& study, int FirstFights::*wins) {
-  double lowest = 100;
+  Share lowest{1, 1};
   int worst = 0;
   for (int i = 0; i < kClasses; ++i) {
     const FirstFights& fights = study.firstFights[static_cast<std::size_t>(i)];
-    const double share = percent(fights.*wins, fights.tries);
-    if (share >= lowest) continue;
+    const Share share{static_cast<double>(fights.*wins), static_cast<double>(fights.tries)};
+    if (i > 0 && share.value() >= lowest.value()) continue;
     lowest = share;
     worst = i;
   }
   const std::string name = kClassTable[static_cast<std::size_t>(worst)].caption;
-  return {text, "≥ " + withPercent(wanted), withPercent(lowest) + " (najsłabszy: " + name + ")", lowest >= wanted};
+  return {text, "≥ " + withPercent(wanted), withInterval(lowest) + " (najsłabszy: " + name + ")",
+          100 * lowest.value() >= wanted};
 }
 
 Aim classAim(const Study& study) {
   const auto shares = classShares(study.games);
   const auto [low, high] = std::minmax_element(shares.begin(), shares.end());
   const auto inside = std::count_if(shares.begin(), shares.end(), [](double x) { return x >= 0.06 && x <= 0.15; });
-  const auto name = [&shares](const double* share) {
-    return std::string(kClassTable[static_cast<std::size_t>(share - shares.data())].caption);
+  const auto decided = static_cast<double>(winningTurns(study.games).size());
+  const auto told = [&shares, decided](const double* share) {
+    return withInterval({*share * decided, decided}) + " " +
+           kClassTable[static_cast<std::size_t>(share - shares.data())].caption;
   };
   return {"Klasy, które wygrywają 6–15 ze 100 partii", "8 z 10",
-          std::to_string(inside) + " z 10; " + withPercent(*low * 100) + " (" + name(low) + ") do " +
-              withPercent(*high * 100) + " (" + name(high) + ")",
-          inside >= 8, "7 z 10; 3.7% do 21.1%"};
+          std::to_string(inside) + " z 10; od " + told(low) + " do " + told(high), inside >= 8,
+          "7 z 10; 3.7% do 21.1%"};
 }
 
 Aim rivalryAim(const Rivalry& rivalry) {
@@ -68,12 +76,6 @@ Aim zoneAim(const Tallies& tallies) {
           withPercent(least) + " (" + kZones[static_cast<std::size_t>(worst)].caption + ")", least >= 5};
 }
 
-// "43.1% (40.2–46.0)"
-std::string withInterval(const Share& share) {
-  return withPercent(100 * share.value()) + " (" + oneDigit(100 * share.low()) + "–" + oneDigit(100 * share.high()) +
-         ")";
-}
-
 Aim mostAim(const char* text, const Share& share, double most, const char* before) {
   return {text, "≤ " + withPercent(most), withInterval(share), 100 * share.value() <= most, before};
 }
@@ -85,17 +87,18 @@ Aim leastAim(const char* text, const Share& share, double least, const char* bef
 Aim deathAim(const Measures& all) {
   constexpr std::size_t kThird = 2;
   int inside = 0;
-  double least = 100;
-  double most = 0;
+  Share least = all.zones[kThird].deaths;
+  Share most = least;
   for (std::size_t zone = kThird; zone < kClimbZones; ++zone) {
-    const double deaths = 100 * all.zones[zone].deaths.value();
-    inside += deaths >= 2 && deaths <= 6 ? 1 : 0;
-    least = std::min(least, deaths);
-    most = std::max(most, deaths);
+    const Share& deaths = all.zones[zone].deaths;
+    inside += deaths.value() >= 0.02 && deaths.value() <= 0.06 ? 1 : 0;
+    if (deaths.value() < least.value()) least = deaths;
+    if (deaths.value() > most.value()) most = deaths;
   }
-  return {"Śmierci na 100 walk w strefach od 3. do 10.", "2–6 w każdej",
-          oneDigit(least) + "–" + oneDigit(most) + "; w przedziale " + std::to_string(inside) + " z 8", inside == 8,
-          "do 2.4"};
+  return {
+      "Śmierci na 100 walk w strefach od 3. do 10.", "2–6 w każdej",
+      "od " + withInterval(least) + " do " + withInterval(most) + "; w przedziale " + std::to_string(inside) + " z 8",
+      inside == 8, "do 2.4"};
 }
 
 Aim followAim(const Knowledge& known, const Measures& all) {
@@ -262,20 +265,21 @@ std::vector<Aim> lengthAims(const Study& study) {
 
 std::vector<Aim> tensionAims(const Knowledge& known, const Study& study, const Measures& all) {
   const std::string busiest = kZones[static_cast<std::size_t>(all.busiestZone)].caption;
-  return {mostAim("Walki rozstrzygnięte w jednej rundzie", all.oneRound, 40, "63%"),
-          mostAim("Walki, które nic nie kosztują", all.costless, 45, "75%"),
-          deathAim(all),
-          leastAim("Partie trzech graczy zakończone zwycięstwem", endedShare(study.smaller[2]), 98, "96%"),
-          leastAim("Partie dwóch graczy zakończone zwycięstwem", endedShare(study.smaller[1]), 95, "90%"),
-          leastAim("Partie samotnika zakończone zwycięstwem", endedShare(study.smaller[0]), 85, "63%"),
-          newcomerAim(study.newcomers),
-          {"Udział jednej strefy w turach", "≤ 18%", withPercent(100 * all.busiest) + " (" + busiest + ")",
-           all.busiest <= 0.18, "26%"},
-          followAim(known, all),
-          leastAim("Tury spędzone w „Pandorii”", all.gambles, 3, "1.2%"),
-          wonGamblesAim(all.gamblesWon),
-          payAim(all),
-          harmlessAim(known, all)};
+  return {
+      mostAim("Walki rozstrzygnięte w jednej rundzie", all.oneRound, 40, "63%"),
+      mostAim("Walki, które nic nie kosztują", all.costless, 45, "75%"),
+      deathAim(all),
+      leastAim("Partie trzech graczy zakończone zwycięstwem", endedShare(study.smaller[2]), 98, "96%"),
+      leastAim("Partie dwóch graczy zakończone zwycięstwem", endedShare(study.smaller[1]), 95, "90%"),
+      leastAim("Partie samotnika zakończone zwycięstwem", endedShare(study.smaller[0]), 85, "63%"),
+      newcomerAim(study.newcomers),
+      {"Udział jednej strefy w turach", "≤ 18%",
+       withInterval({all.busiest * all.gambles.whole, all.gambles.whole}) + " " + busiest, all.busiest <= 0.18, "26%"},
+      followAim(known, all),
+      leastAim("Tury spędzone w „Pandorii”", all.gambles, 3, "1.2%"),
+      wonGamblesAim(all.gamblesWon),
+      payAim(all),
+      harmlessAim(known, all)};
 }
 
 std::vector<Aim> allAims(const Knowledge& known, const Study& study, const Tallies& tallies) {
