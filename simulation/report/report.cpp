@@ -208,8 +208,11 @@ const char* const kIntroduction =
     "Dla graczy, którzy lubią wiedzieć, na co się porywają. Liczby pochodzą z całych partii rozegranych przez\n"
     "wymyślonych graczy, którzy widzą tylko to, co widać na ekranach, i klikają tylko to, co da się kliknąć.\n"
     "**Rozsądny** waży spodziewane obrażenia i ryzyko ołówkiem na kartce. **Nowicjusz** kupuje to, co\n"
-    "brzmi groźnie, idzie strefę dalej, gdy było łatwo, a strefę bliżej, gdy bolało. **Chciwy** rozgrywa każdą walkę\n"
-    "w głowie, nim ją wybierze. **Hazardzista** ciągnie do „Pandorii” i do „Tronu Królów”, nim przyjdzie pora.\n\n"
+    "brzmi groźnie, idzie strefę dalej, gdy było łatwo, a strefę bliżej, gdy bolało; na ostatnim wcieleniu rusza\n"
+    "dalej dopiero po dwóch łatwych walkach z rzędu, a do „Tronu Królów” po trzech. **Chciwy** rozgrywa każdą walkę\n"
+    "w głowie, nim ją wybierze. **Hazardzista** ciągnie do „Pandorii” i do „Tronu Królów”, nim przyjdzie pora.\n"
+    "Rozsądny waży się na tym więcej, im więcej ma rywali; samotny odwleka „Tron” najdłużej, a partia, która po\n"
+    "60 turach trwa, liczy się jako nierozstrzygnięta.\n\n"
     "W nawiasach stoją przedziały, w których z ufnością 95% leży prawdziwa wartość.\n\n";
 
 const char* const kRules =
@@ -227,6 +230,15 @@ const char* const kRules =
     "- Broń biała doskonali się w użyciu (do ponad 100% premii), dlatego stara, wyćwiczona broń długo wygrywa z nową.\n"
     "- Średnie obrażenia na ekranie przygotowań zaokrąglają średnią jednej kości. Potwory rzucają więc kośćmi o\n"
     "  nieparzystej liczbie ścian: ich średnia jest całkowita, a pokazana liczba dokładna.\n";
+
+const char* const kSearch =
+    "\n## Skąd te liczby\n\n"
+    "Z prób: każdy wiersz [szukanie.csv](balans/szukanie.csv) to jeden zestaw liczb, rozegrany w 16–60 partiach\n"
+    "czterech rozsądnych, z innymi ziarnami niż partie tego pliku. Pomogło to, że potwory żyją dłużej i są szybsze,\n"
+    "strefa trzecia pilnuje się lepiej, drogie bronie mocniej się różnią od tanich, a „Król Zagłady” rzuca wieloma\n"
+    "małymi kośćmi, więc mniej zależy od szczęścia. Silniejsze grupy poprawiały to, czy nagroda idzie za\n"
+    "niebezpieczeństwem, ale zatrzymywały bohaterów w strefie drugiej; „Król” o większej wytrzymałości odbierał\n"
+    "samotnym koniec partii przed 60. turą.\n";
 
 // What a dear weapon adds to the chance to win.
 std::string dearTable(const Knowledge& known, const Study& study) {
@@ -307,7 +319,7 @@ std::string optionsOf(const StudySetup& setup) {
 
 std::string howTo(const DataFiles& data, const Study& study) {
   std::ostringstream out;
-  out << "\n## Jak to powtórzyć\n\nJedno polecenie, z głównego folderu gry:\n\n"
+  out << kSearch << "\n## Jak to powtórzyć\n\nJedno polecenie, z głównego folderu gry:\n\n"
       << "    simulation/report.sh" << optionsOf(study.setup) << "\n\n"
       << "Rozgrywa " << study.games.size() << " partii po " << study.setup.players << " graczy (" << study.setup.points
       << " punktów na start, ziarno " << study.setup.seed
