@@ -233,12 +233,12 @@ const char* const kRules =
 
 const char* const kSearch =
     "\n## Skąd te liczby\n\n"
-    "Z prób: każdy wiersz [szukanie.csv](balans/szukanie.csv) to jeden zestaw liczb, rozegrany w 16–60 partiach\n"
-    "czterech rozsądnych, z innymi ziarnami niż partie tego pliku. Pomogło to, że potwory żyją dłużej i są szybsze,\n"
-    "strefa trzecia pilnuje się lepiej, drogie bronie mocniej się różnią od tanich, a „Król Zagłady” rzuca wieloma\n"
-    "małymi kośćmi, więc mniej zależy od szczęścia. Silniejsze grupy poprawiały to, czy nagroda idzie za\n"
-    "niebezpieczeństwem, ale zatrzymywały bohaterów w strefie drugiej; „Król” o większej wytrzymałości odbierał\n"
-    "samotnym koniec partii przed 60. turą.\n";
+    "Z prób: każdy wiersz [szukanie.csv](balans/szukanie.csv) to jeden zestaw liczb, rozegrany w 24–60 partiach\n"
+    "czterech rozsądnych, z innymi ziarnami niż partie tego pliku; potem „Król Zagłady” dostał więcej wytrzymałości,\n"
+    "aby nikt nie szedł na „Tron Królów” za młodo. W tych małych próbach wyglądało na to, że pomaga, gdy potwory żyją\n"
+    "dłużej i są szybsze, strefa trzecia pilnuje się lepiej, drogie bronie mocniej różnią się od tanich, a „Król\n"
+    "Zagłady” rzuca wieloma małymi kośćmi. Silniejsze grupy zbliżały nagrodę do niebezpieczeństwa, ale zatrzymywały\n"
+    "bohaterów w strefie drugiej; „Król” o większej wytrzymałości odbierał samotnym koniec partii przed 60. turą.\n";
 
 // What a dear weapon adds to the chance to win.
 std::string dearTable(const Knowledge& known, const Study& study) {
