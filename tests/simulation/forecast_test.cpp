@@ -261,7 +261,7 @@ TEST(Forecast, RehearsesEverySpellAndGrenadesAsTheScreenPlaysThem) {
 }
 
 TEST(Forecast, OffByOneInArmourOrByALittlePracticeWouldBeNoticed) {
-  const Bout bout = {"Okuty kij", grown(kWarrior), 24, {.weapon = 1}};
+  const Bout bout = {"Okuty kij", grown(kWarrior), 9, {.weapon = 1}};
   HeroNotes thicker = bout.hero;
   ++thicker.steps[kArmour];
   EXPECT_NE(faultOf(bout, thicker), "");

@@ -67,9 +67,9 @@ TEST_F(DiskFilesTest, WritesEveryByteAsItIs) {
 }
 
 TEST_F(DiskFilesTest, ANewFileIsForWhomTheMaskOfTheProcessLetsReadAndWriteIt) {
-  const mode_t before = umask(027);
+  const mode_t mask = umask(027);
   files.create("plik.txt");
-  umask(before);
+  umask(mask);
   EXPECT_EQ(fs::status("plik.txt").permissions(),
             fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
 }
