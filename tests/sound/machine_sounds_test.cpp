@@ -14,7 +14,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <string>
 #include <thread>
 
@@ -40,9 +40,11 @@ bool becomesTrue(const std::function<bool()>& condition) {
   return true;
 }
 
+// By the library, not letter by letter: a driver writes faster than a test without the optimizer reads.
 std::string bytesOf(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
+  std::ostringstream bytes;
+  bytes << std::ifstream(path, std::ios::binary).rdbuf();
+  return bytes.str();
 }
 
 // A folder with sound files, and a driver that writes what is to be heard into another one.
