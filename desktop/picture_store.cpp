@@ -104,7 +104,7 @@ QPixmap PictureStore::pixmap(const QString& name, QSize box, Qt::AspectRatioMode
 // On a large or dense screen there is room for the background and as much again.
 void PictureStore::keep(const QString& key, const QPixmap& picture) {
   const int kilobytes = static_cast<int>(qint64{4} * picture.width() * picture.height() / 1024);
-  cache_.setMaxCost(std::max<qsizetype>(cache_.maxCost(), 2 * kilobytes));
+  cache_.setMaxCost(std::max<qsizetype>(cache_.maxCost(), qsizetype{2} * kilobytes));
   cache_.insert(key, new QPixmap(picture), kilobytes);
 }
 
