@@ -48,6 +48,14 @@ Bohater fighter(const std::string& weapon) {
   return hero;
 }
 
+// A fighter with neither weapon nor spell.
+Bohater emptyHanded() {
+  Bohater hero = fighter("");
+  for (int i = 0; i < 10; ++i) hero.MaBronww(i) = hero.MaBronss(i) = false;
+  for (int i = 0; i < kSpells; ++i) hero.MaCzar(i) = false;
+  return hero;
+}
+
 // A fight that the hero strikes in with the lowest dice, against one tough monster that never hurts.
 void setLongFight(World& world, const Bohater& hero) {
   FightSetup setup = plainFight();
@@ -92,9 +100,7 @@ TEST(NextHand, ARoundWithAReportClosedTakesThreePresses) {
 
 TEST(NextHand, AHeroWithOneWeaponThatHeHasNotChosenIsLedToIt) {
   World world;
-  Bohater hero = fighter("");
-  for (int i = 0; i < 10; ++i) hero.MaBronww(i) = hero.MaBronss(i) = false;
-  for (int i = 0; i < kSpells; ++i) hero.MaCzar(i) = false;
+  Bohater hero = emptyHanded();
   hero.MaBronww(3) = true;
   setLongFight(world, hero);
   Played fight(world, "Fight");
@@ -267,9 +273,7 @@ TEST(NextHand, ABerserkerIsLedToHisSpellsNoMoreOnceOneDidNothing) {
 
 TEST(NextHand, AHeroWithNothingToUseOnlyPassesRounds) {
   World world;
-  Bohater hero = fighter("");
-  for (int i = 0; i < 10; ++i) hero.MaBronww(i) = hero.MaBronss(i) = false;
-  for (int i = 0; i < kSpells; ++i) hero.MaCzar(i) = false;
+  Bohater hero = emptyHanded();
   hero.Przedmioty(2) = 0;
   setLongFight(world, hero);
   Played fight(world, "Fight");
