@@ -80,6 +80,7 @@ struct Maker {
 
   QWidget* operator()(const ListBox*) const {
     auto* widget = new RowList(parent);
+    widget->setUniformItemSizes(true);
     const auto select = gestures.select;
     QObject::connect(widget, &QListWidget::itemSelectionChanged, widget, [widget, select] {
       if (!widget->selectedItems().isEmpty()) select(widget->currentRow());

@@ -6,6 +6,8 @@
 #include <QStyleOption>
 #include <algorithm>
 
+#include "desktop/box.h"
+#include "desktop/kept_words.h"
 #include "desktop/theme.h"
 #include "desktop/unit.h"
 
@@ -66,31 +68,10 @@ class Lengths {
   qreal unit_;
 };
 
-// A face with rounded corners inside an edge, whose sides may differ in width.
-struct Box {
-  QColor face;
-  QColor edge;
-  QMargins widths;
-  int radius;
-};
-
 bool has(const QStyleOption& option, QStyle::StateFlag flag) { return (option.state & flag) != 0; }
 
 bool is(const QWidget* widget, const char* property) {
   return widget != nullptr && widget->property(property).toBool();
-}
-
-void draw(QPainter& painter, const QRect& place, const Box& box) {
-  const QRect inside = place.marginsRemoved(box.widths);
-  const qreal inner = box.radius - box.widths.left();
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(box.edge);
-  painter.drawRoundedRect(place, box.radius, box.radius);
-  painter.setBrush(box.face);
-  painter.drawRoundedRect(inside, inner, inner);
-  painter.restore();
 }
 
 // The edge of a button, in units.
@@ -279,7 +260,7 @@ void drawKey(QPainter& painter, const QRect& place, const QWidget* widget, const
   painter.save();
   painter.setFont(keyFont(*widget));
   painter.setPen(widget->isEnabled() ? theme::kFieldEdge : palette.color(QPalette::Disabled, QPalette::ButtonText));
-  painter.drawText(place.marginsRemoved(length.of(kKeyMargins)), Qt::AlignRight | Qt::AlignBottom, key);
+  drawWords(painter, place.marginsRemoved(length.of(kKeyMargins)), Qt::AlignRight | Qt::AlignBottom, key);
   painter.restore();
 }
 
@@ -287,6 +268,15 @@ void drawKey(QPainter& painter, const QRect& place, const QWidget* widget, const
 void Style::polish(QWidget* widget) {
   QProxyStyle::polish(widget);
   if (isLargeField(widget)) static_cast<QAbstractScrollArea*>(widget)->viewport()->setAutoFillBackground(false);
+}
+
+void Style::drawItemText(QPainter* painter, const QRect& place, int flags, const QPalette& palette, bool /*isEnabled*/,
+                         const QString& words, QPalette::ColorRole role) const {
+  if (words.isEmpty()) return;
+  const QPen before = painter->pen();
+  if (role != QPalette::NoRole) painter->setPen(palette.color(role));
+  drawWords(*painter, place, flags, words);
+  painter->setPen(before);
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -34,6 +34,8 @@ class Style : public QProxyStyle {
   using QProxyStyle::polish;
   void polish(QWidget* widget) override;
 
+  void drawItemText(QPainter* painter, const QRect& place, int flags, const QPalette& palette, bool isEnabled,
+                    const QString& words, QPalette::ColorRole role) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -14,15 +14,19 @@ namespace {
 
 constexpr const char* kSerif = "Vollkorn";
 
+// Small letters look alike with and without their finer spacing, and are set in half of the time without.
 QFont textFont() {
   QFont font;
   font.setFamilies({"Lato", "DejaVu Sans"});
+  font.setStyleStrategy(QFont::PreferNoShaping);
   return font;
 }
 
+// Headings are large enough to show their finer spacing.
 QFont serifFont() {
   QFont font;
   font.setFamilies({kSerif, "DejaVu Serif"});
+  font.setStyleStrategy(QFont::PreferDefault);
   font.setBold(true);
   return font;
 }
