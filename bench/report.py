@@ -114,9 +114,9 @@ def main():
     fill(table, figures)
     how = "before all other programs" if sys.argv[3] != "plain" else "among all other programs"
     rounds = len(figures["floor", "first_window_ms"])
-    print(f"Medians of {len(loads)} rounds ({rounds} starts of each program) on {os.cpu_count()} cores, run {how};")
-    print(f"load of the machine {min(loads):.1f} to {max(loads):.1f}. The floor is a bare Qt program of one label,")
-    print("or a change between two bare windows.\n")
+    print(f"Medians of {len(loads)} rounds ({rounds} starts of each program) on {os.cpu_count()} cores, which were kept")
+    print(f"awake; run {how}, load of the machine {min(loads):.1f} to {max(loads):.1f}. The floor is a bare Qt")
+    print("program of one label, or a change between two bare windows.\n")
     print("\n".join(table.lines()) + "\n")
     print("\n".join(rooms(figures)))
 

@@ -80,6 +80,10 @@ void paleWithoutChoice(const QListWidget& list, const std::vector<QLabel*>& deta
 constexpr Desk kMelee = {0, "LBronww", {"BWnazwa", "BWdmg", "BWcena", "BWopis"}, "Kupww", "Sprzedajww"};
 constexpr Desk kRanged = {1, "Lbronss", {"BSnazwa", "BSdmg", "BScena", "BSopis"}, "Kupss", "Sprzedajss"};
 
+// Below the list and a gap.
+constexpr int kDetails = 4;
+constexpr int kAboveDetails = 2;
+
 void layOutDesk(FormWindow& window, QGridLayout& grid, int column, const Desk& desk,
                 const std::array<int, 4>& headings) {
   auto& heading = window.at<QLabel>("Label7", desk.heading);
@@ -92,7 +96,7 @@ void layOutDesk(FormWindow& window, QGridLayout& grid, int column, const Desk& d
   grid.addWidget(&list, 2, column, 1, 2);
   std::vector<QLabel*> details;
   for (std::size_t i = 0; i < headings.size(); ++i) {
-    const int row = 3 + static_cast<int>(i);
+    const int row = kDetails + static_cast<int>(i);
     QLabel& value = alignTop(window.at<QLabel>(desk.details[i]));
     value.setWordWrap(true);
     details.push_back(&value);
@@ -100,11 +104,12 @@ void layOutDesk(FormWindow& window, QGridLayout& grid, int column, const Desk& d
     grid.addWidget(&value, row, column + 1);
   }
   paleWithoutChoice(list, details);
+  window.unit().row(grid, kDetails - 1, kAboveDetails);
   window.unit().atLeast(window.at(desk.details.back()), 0, 36);
   auto* buttons = bare<QHBoxLayout>(window);
   buttons->addWidget(&window.at<QPushButton>(desk.buy));
   if (window.has(desk.sell)) buttons->addWidget(&window.at<QPushButton>(desk.sell));
-  grid.addLayout(buttons, 7, column, 1, 2);
+  grid.addLayout(buttons, kDetails + static_cast<int>(headings.size()), column, 1, 2);
   grid.setColumnStretch(column + 1, 1);
 }
 

@@ -170,6 +170,7 @@ QFrame* actions(FormWindow& window) {
   }
   auto& next = window.at<QPushButton>("NastTura");
   setType(window, next, Type::heading);
+  theme::makePrimary(next);
   window.unit().atLeast(next, 190, 76);
   grid.addWidget(&next, 0, column, 2, 1);
   return frame;

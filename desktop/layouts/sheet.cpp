@@ -12,9 +12,9 @@ namespace brolgan::desktop {
 
 namespace {
 
-constexpr int kFigures = 6;
 constexpr int kRows = 3;
 constexpr int kHead = 24;
+constexpr int kBetweenHalves = 28;
 
 // Rows with the head of their monster before its name. A head is decoded when its row comes into sight; a
 // monster without one has its name alone.
@@ -76,17 +76,19 @@ QGridLayout* head(FormWindow& window) {
   return grid;
 }
 
-QGridLayout* figures(FormWindow& window) {
-  auto* grid = bare<QGridLayout>(window);
-  for (int i = 0; i < kFigures; ++i) {
-    const int column = i < kRows ? 0 : 3;
-    grid->addWidget(&window.at<QLabel>("pstatl", i), i % kRows, column);
-    grid->addWidget(&figure(window, member("Pstat", i), Type::figure), i % kRows, column + 1);
+// Each half of the figures stands over one of the lists.
+QHBoxLayout* figures(FormWindow& window) {
+  auto* halves = bare<QHBoxLayout>(window, kBetweenHalves);
+  for (const int first : {0, kRows}) {
+    auto* grid = bare<QGridLayout>(window);
+    for (int row = 0; row < kRows; ++row) {
+      grid->addWidget(&window.at<QLabel>("pstatl", first + row), row, 0);
+      grid->addWidget(&figure(window, member("Pstat", first + row), Type::figure), row, 1);
+    }
+    grid->setColumnStretch(1, 1);
+    halves->addLayout(grid, 1);
   }
-  window.unit().column(*grid, 2, 28);
-  grid->setColumnStretch(1, 1);
-  grid->setColumnStretch(4, 1);
-  return grid;
+  return halves;
 }
 
 QVBoxLayout* list(FormWindow& window, const char* heading, const char* rows) {
@@ -106,7 +108,7 @@ void layOutSheet(FormWindow& window) {
   auto* all = within<QVBoxLayout>(window, window.page(), {18, 14, 18, 16}, 10);
   all->addLayout(head(window));
   all->addLayout(figures(window));
-  auto* lists = bare<QHBoxLayout>(window, 12);
+  auto* lists = bare<QHBoxLayout>(window, kBetweenHalves);
   lists->addLayout(list(window, "Label1", "Bron"), 1);
   lists->addLayout(list(window, "Label2", "Stwory"), 1);
   auto& kills = window.at<QListWidget>("Stwory");

@@ -71,8 +71,7 @@ QWidget* leftColumn(FormWindow& window) {
   warning.setWordWrap(true);
   makeBold(warning);
   column->addWidget(&warning);
-  column->addWidget(zones(window));
-  column->addStretch();
+  column->addWidget(zones(window), 1);
   return left;
 }
 
