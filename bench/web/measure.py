@@ -16,21 +16,21 @@ FOLDER = pathlib.Path("build/web/gra")
 DEVELOPER = pathlib.Path("build/web-dev/gra")
 FLOOR = """<!DOCTYPE html><title>floor</title><body><img src="tytul-s.webp" width="50%"><img src="tytul-noc-s.webp" width="49%">"""
 # The times until both pictures of the title are painted, and until the window over them is.
-PAINTED = """const done = arguments[0];
-const times = [];
-const arePictures = () => [...document.images].slice(0, 2).every((image) => image.complete && image.naturalWidth > 0);
-const isWindow = () => !document.querySelector('#Main') || !document.querySelector('#Main').hidden;
-const painted = (isReady, next) => {
-  const look = () => {
-    if (!isReady()) return requestAnimationFrame(look);
-    requestAnimationFrame(() => requestAnimationFrame(() => { times.push(performance.now()); next(); }));
+PAINTED = """globalThis.painted = new Promise((done) => {
+  const times = [];
+  const pictures = () => [...document.images].slice(0, 2);
+  const arePictures = () => pictures().length === 2 && pictures().every((image) => image.complete && image.naturalWidth > 0);
+  const isWindow = () => !document.querySelector('#Main') || !document.querySelector('#Main').hidden;
+  const paint = (isReady, part) => {
+    if (!isReady()) return requestAnimationFrame(() => paint(isReady, part));
+    requestAnimationFrame(() => requestAnimationFrame(() => {
+      times[part] = performance.now();
+      if (times[0] && times[1]) done(times);
+    }));
   };
-  look();
-};
-let left = 2;
-const note = () => --left === 0 && done(times);
-painted(arePictures, note);
-painted(() => arePictures() && isWindow(), note);"""
+  paint(arePictures, 0);
+  paint(() => arePictures() && isWindow(), 1);
+});"""
 # From a click to the frame behind it; of which the program's part, and the same of a click that does nothing.
 CLICK = """const [id, done] = arguments;
 const button = id ? document.getElementById(id) : document.createElement('button');
@@ -54,8 +54,9 @@ def start(folder):
     page had fetched by then, with nothing kept from before."""
     with browser.serving(folder) as address, browser.browsing() as driver:
         browser.Page(driver, address).size(1366, 768)
+        driver.execute_cdp_cmd("Page.addScriptToEvaluateOnNewDocument", {"source": PAINTED})
         driver.get(address)
-        painted = driver.execute_async_script(PAINTED)
+        painted = driver.execute_async_script("painted.then(arguments[0]);")
         names = driver.execute_script("return performance.getEntriesByType('resource').filter((one) => one.startTime < arguments[0])"
                                       ".map((one) => decodeURIComponent(new URL(one.name).pathname.slice(1)))", painted[1])
         return painted, {"index.html", *names}
