@@ -122,7 +122,12 @@ void setColour(QWidget& widget, Colour colour) {
   const QColor wanted = theme::colourOf(colour);
   QPalette palette = widget.palette();
   if (palette.color(QPalette::Active, QPalette::WindowText) == wanted) return;
-  for (const auto group : {QPalette::Active, QPalette::Inactive}) palette.setColor(group, QPalette::WindowText, wanted);
+  // What a rule has coloured is not paler where plain words are.
+  const QColor pale = colour == Colour::buttonText ? theme::kDisabledText : wanted;
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    palette.setColor(group, QPalette::WindowText, wanted);
+    palette.setColor(group, QPalette::PlaceholderText, pale);
+  }
   widget.setPalette(palette);
   QFont font = fontOf(widget);
   font.setBold(colour == Colour::red || widget.property(kIsBold).toBool());

@@ -159,6 +159,16 @@ TEST(Looks, WhatIsSaidOfNoWeaponIsPale) {
   EXPECT_EQ(stage.colour("CTsklep", "BSdmg"), pale);
 }
 
+TEST(Looks, AWeaponBoughtBeforeAnyIsChosenIsRed) {
+  Stage stage;
+  Bohater hero = richHero();
+  hero.MaBronww(0) = false;
+  setShop(stage.world, hero);
+  stage.open({"CTsklep"});
+  stage.click("CTsklep", "Kupww");
+  EXPECT_EQ(stage.colour("CTsklep", "BWnazwa"), QColor(255, 0, 0));
+}
+
 TEST(Looks, TheHeadOfAMonsterStandsBesideItsName) {
   Stage stage;
   Bohater hero = richHero();

@@ -118,6 +118,16 @@ TEST_F(Grenade, StoppedByTheArmourShowsNothing) {
   EXPECT_EQ(openActions(), "");
 }
 
+TEST_F(Grenade, StoppedByTheArmourStillCountsTheDead) {
+  group(2, 0, 11);
+  open();
+  throwGrenade(11);
+
+  EXPECT_FALSE(shown("FZad"));
+  EXPECT_EQ(caption("OpisZad"), "Czysto!");
+  EXPECT_EQ(caption("LIle"), "0");
+}
+
 TEST_F(Grenade, StoppedByTheArmourKeepsTheFiguresOfTheReport) {
   ready("Nóż");
   group(1, 50, 5);

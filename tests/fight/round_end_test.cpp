@@ -298,6 +298,21 @@ TEST_F(Victory, OfAHeroWithoutLivesPutsHimOutAllTheSame) {
   EXPECT_EQ(world.files.contents["hero1.boh"], before);
 }
 
+TEST_F(Victory, OverKrolZagladyOfAHeroWithoutLivesPutsHimOutAndTheGameGoesOn) {
+  hero.Wcielenia = 0;
+  fight.potwor.Nazwa = "Król Zagłady";
+  ready("Miecz");
+  players({"hero1.boh", "hero2.boh"});
+  open();
+  blow();
+  world.roll(1, 4, {1});
+  nextRound();
+
+  EXPECT_FALSE(world.runtime.ended());
+  EXPECT_TRUE(world.isShown("CTsklep"));
+  EXPECT_EQ(world.lines("gra.cfg"), (Rows{" 1 ", "hero2.boh"}));
+}
+
 TEST_F(NextPlayer, OfThreeIsTheSecondAndTheFirstGoesToTheEnd) {
   players({"hero1.boh", "b.boh", "c.boh"});
   open();
