@@ -14,7 +14,7 @@ namespace brolgan::desktop {
 namespace {
 
 // About what a window manager adds on each side of a window.
-constexpr QMargins kFrame(4, 26, 4, 4);
+constexpr QMargins kFrame(4, 26, 4, 6);
 constexpr qreal kShareOfLargeScreen = 0.9;
 // From the edges of a window to one that opens on it.
 constexpr int kInset = 24;
