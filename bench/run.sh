@@ -3,13 +3,13 @@
 # and writes one table, as Markdown, to FILE or to the screen. ROUNDS (12) says how many rounds, and
 # BENCH_PLAIN=1 runs the programs like all others.
 # On a machine that others use the programs run before all others, where that is allowed. The processors
-# are kept awake by loops that run only when nothing else does: a processor that sleeps takes its time to wake,
-# longer than a window to change.
+# are kept awake.
 set -eu
 out=${1:-/dev/stdout}
 case $out in /*) ;; *) out=$PWD/$out ;; esac
 cd "$(dirname "$0")/.."
 . tools/setup/display.sh
+. bench/awake.sh
 rounds=${ROUNDS:-12}
 build=$PWD/build/bench
 report=$PWD/bench/report.py
@@ -22,16 +22,8 @@ cmake --build "$build" >&2
 first=
 [ -n "${BENCH_PLAIN:-}" ] || ! chrt -f 5 true 2>/dev/null || first="chrt -f 5"
 
-awake=
-keep_awake() {
-  for _ in $(seq "$(nproc)"); do
-    chrt -i 0 sh -c 'while :; do :; done' &
-    awake="$awake $!"
-  done
-}
-
 work=$(mktemp -d)
-trap 'stop_display; kill $awake 2>/dev/null || true; rm -rf "$work"' EXIT INT TERM
+trap 'stop_display; let_sleep; rm -rf "$work"' EXIT INT TERM
 keep_awake
 XDG_RUNTIME_DIR=$work
 export XDG_RUNTIME_DIR

@@ -1,7 +1,9 @@
 #!/bin/sh
-# run.sh [ROUNDS]: builds the page and measures it in a browser; prints a table for docs/measurements.md.
+# run.sh [ROUNDS]: builds the page and measures it in a browser, with the processors
+# kept awake; prints a table for docs/measurements.md.
 set -eu
 cd "$(dirname "$0")/../.."
+. bench/awake.sh
 tools/setup/install.sh web
 mkdir -p build
 for preset in web-dev web; do
@@ -10,4 +12,6 @@ for preset in web-dev web; do
     exit 1
   }
 done
-exec /usr/bin/python3 bench/web/measure.py "$@"
+trap let_sleep EXIT INT TERM
+keep_awake
+/usr/bin/python3 bench/web/measure.py "$@"
