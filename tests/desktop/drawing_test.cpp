@@ -4,6 +4,8 @@
 #include <QFont>
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
+#include <cstdlib>
 
 #include "desktop/box.h"
 #include "desktop/kept_words.h"
@@ -48,16 +50,19 @@ int largestDifference(const QImage& one, const QImage& other) {
     for (int x = 0; x < one.width(); ++x) {
       const QColor a = one.pixelColor(x, y);
       const QColor b = other.pixelColor(x, y);
-      largest = std::max({largest, std::abs(a.red() - b.red()), std::abs(a.blue() - b.blue())});
+      largest = std::max(
+          {largest, std::abs(a.red() - b.red()), std::abs(a.green() - b.green()), std::abs(a.blue() - b.blue())});
     }
   }
   return largest;
 }
 
+// As in a widget, which does not begin where its window does.
 QImage words(const QString& text, const QFont& font, int flags, bool isKept) {
   QImage image = blank(1);
   QPainter painter(&image);
   painter.setFont(font);
+  painter.translate(3, 4);
   isKept ? drawWords(painter, kPlace, flags, text) : painter.drawText(kPlace, flags, text);
   return image;
 }

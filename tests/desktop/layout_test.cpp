@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QRawFont>
 #include <QTest>
@@ -41,6 +42,20 @@ void count(const QLayout& layout, std::map<const QWidget*, int>& places) {
     if (item.widget() == nullptr) continue;
     ++places[item.widget()];
     if (item.widget()->layout() != nullptr) count(*item.widget()->layout(), places);
+  }
+}
+
+TEST(Layout, TheZonesStandInOneColumnFromTheFirstToTheLast) {
+  Stage stage;
+  setShop(stage.world, richHero());
+  stage.open({"CTsklep"});
+  const QPoint first = stage.get<QPushButton>("CTsklep", "w1").pos();
+  int above = first.y();
+  for (int zone = 2; zone <= 12; ++zone) {
+    const QPoint place = stage.get<QPushButton>("CTsklep", "w" + std::to_string(zone)).pos();
+    EXPECT_EQ(place.x(), first.x()) << zone;
+    EXPECT_GT(place.y(), above) << zone;
+    above = place.y();
   }
 }
 

@@ -133,6 +133,44 @@ class Looks(InBrowser):
         self.assertEqual(len({place for _, _, place in looks}), 12)
         self.assertTrue(all("strefy.webp" in image for _, image, _ in looks))
 
+    def test_the_zones_stand_in_one_column_at_every_size(self):
+        self.page.click("Main", "gracz(0)")
+        self.page.click("CTmhero", "Save")
+        self.page.click("Main", "Start")
+        for (width, height), is_touched in SIZES.items():
+            self.page.size(width, height, touch=is_touched)
+            places = self.page.script(
+                "return [...Array(12).keys()].map((i) => document.getElementById(`CTsklep.w${i + 1}`).getBoundingClientRect())"
+                ".map((place) => [place.left, place.top]);")
+            self.assertEqual(len({left for left, _ in places}), 1, (width, height))
+            self.assertEqual([top for _, top in places], sorted({top for _, top in places}), (width, height))
+
+    def test_a_weapon_bought_before_any_is_chosen_is_red(self):
+        self.page.open(START + 1)  # A day on which weapons are sold.
+        self.lay_lists()
+        self.page.click("Main", "gracz(0)")
+        self.page.select("CTmhero", "LBronww", "Nóż")
+        self.page.click("CTmhero", "Sprzedajww")
+        self.page.click("CTmhero", "Save")
+        self.page.click("Main", "Start")
+        self.assertEqual(self.colour_of_the_weapon(), "rgb(107, 101, 87)")
+        self.page.click("CTsklep", "Kupww")
+        self.assertEqual(self.colour_of_the_weapon(), "rgb(255, 0, 0)")
+
+    def colour_of_the_weapon(self):
+        return self.page.script("return getComputedStyle(document.getElementById('CTsklep.BWnazwa')).color")
+
+    def test_two_blanks_before_a_turn_are_two_at_every_size(self):
+        self.go_to_fight()
+        self.page.script("document.getElementById('Fight.FZad').hidden = false;")
+        for (width, height), is_touched in SIZES.items():
+            self.page.size(width, height, touch=is_touched)
+            wide, narrow = self.page.script(
+                "const verdict = document.getElementById('Fight.OpisZad'); const words = document.createRange();"
+                "return ['tura  7', 'tura 7'].map((told) => { verdict.textContent = told; words.selectNodeContents(verdict);"
+                " return words.getBoundingClientRect().width; })")
+            self.assertGreater(wide, narrow, (width, height))
+
     def test_what_is_beaten_stands_in_the_sheet_with_its_head(self):
         last = None
         self.lay_lists()
