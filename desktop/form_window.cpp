@@ -17,7 +17,9 @@
 #include "desktop/picture_store.h"
 #include "desktop/style.h"
 #include "desktop/text.h"
+#include "desktop/theme.h"
 #include "desktop/widgets.h"
+#include "game/guide/inviting.h"
 #include "game/guide/keys.h"
 #include "game/guide/spoken.h"
 
@@ -191,11 +193,14 @@ void FormWindow::mirrorAll() {
   tellAll();
 }
 
-// Names follow their values, and the picture the fate of the group.
+// Names follow their values, what calls for a click the state of the screen, and the picture the fate of
+// the group.
 void FormWindow::tellAll() {
   const auto& entries = form_->controls().entries();
   for (std::size_t i = 0; i < entries.size(); ++i) {
-    if (inOrder_[i] != nullptr) tell(name_, entries[i], *inOrder_[i]);
+    if (inOrder_[i] == nullptr) continue;
+    tell(name_, entries[i], *inOrder_[i]);
+    theme::makePrimary(*inOrder_[i], isInviting(name_, *form_, entries[i]));
   }
   if (has(kMonsterPicture)) at<PictureWidget>(kMonsterPicture).setDimmed(isGroupGone(name_, *form_));
 }

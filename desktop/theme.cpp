@@ -152,6 +152,10 @@ void makeBanded(QWidget& frame, const QColor& band) {
 
 void makeTinted(QWidget& button, const QColor& tint) { button.setProperty(kTint, tint); }
 
-void makePrimary(QWidget& button) { button.setProperty(kIsPrimary, true); }
+void makePrimary(QWidget& widget, bool isPrimary) {
+  if (widget.property(kIsPrimary).toBool() == isPrimary) return;
+  widget.setProperty(kIsPrimary, isPrimary);
+  widget.update();
+}
 
 }  // namespace brolgan::desktop::theme

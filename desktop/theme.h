@@ -67,7 +67,7 @@ void makeNarrow(QWidget& button);
 void makeBanded(QWidget& frame, const QColor& band);
 // Gives a button a face of that colour at rest.
 void makeTinted(QWidget& button, const QColor& tint);
-// Makes a button the one that leads on from its screen.
-void makePrimary(QWidget& button);
+// Makes a widget one that calls for a click, as the button that leads on from its screen does, or no more.
+void makePrimary(QWidget& widget, bool isPrimary = true);
 
 }  // namespace brolgan::desktop::theme

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/box.h"
 #include "desktop/picture_store.h"
 #include "desktop/style.h"
 #include "desktop/theme.h"
@@ -25,6 +26,10 @@ constexpr qreal kFaint = 0.4;
 constexpr int kTipWidth = 420;
 constexpr int kPictureButton = 48;
 constexpr qreal kLetterPlate = 13;
+
+// The edge of a label that calls for a click, in units.
+constexpr qreal kRaisedEdge = 1.5;
+constexpr qreal kRaisedBelow = 3;
 
 // The device pixels of an area of a widget.
 QSize pixelsOf(const QWidget& widget, QRect area) {
@@ -110,12 +115,18 @@ void ClickLabel::paintEvent(QPaintEvent*) {
                         foregroundRole());
 }
 
-// A light plate says that the label can be clicked; the focus thickens its edge.
+// What calls for a click stands out like a button, what is owned is a frame alone; the focus thickens the
+// edge.
 void ClickLabel::drawPlate(QPainter& painter) {
   const qreal unit = Unit::of(this);
-  const QPen atRest = isChecked_ ? QPen(theme::kInk, 2 * unit) : QPen(theme::kEdge, unit);
-  painter.setPen(hasFocus() ? QPen(theme::kFocus, 3 * unit) : atRest);
-  painter.setBrush(theme::kPlate);
+  const bool isRaised = property(kIsPrimary).toBool() && !hasFocus();
+  if (isRaised) {
+    const int edge = qRound(kRaisedEdge * unit);
+    const int below = qRound(kRaisedBelow * unit);
+    return draw(painter, rect(), {theme::kButtonHover, theme::kInk, {edge, edge, edge, below}, qRound(4 * unit)});
+  }
+  painter.setPen(hasFocus() ? QPen(theme::kFocus, 3 * unit) : QPen(isChecked_ ? theme::kStone : theme::kEdge, unit));
+  painter.setBrush(isChecked_ ? QBrush(Qt::NoBrush) : theme::kPlate);
   painter.drawRoundedRect(QRectF(rect()).adjusted(unit, unit, -unit, -unit), 4 * unit, 4 * unit);
 }
 

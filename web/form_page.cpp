@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "game/guide/inviting.h"
 #include "game/guide/keys.h"
 #include "game/guide/spoken.h"
 #include "web/outside.h"
@@ -86,6 +87,7 @@ class Mirror {
     if (isCheckable(screen, entry)) set(shown_.isChosen, isChecked(entry), page_checked);
   }
   void dim(bool wanted) const { set(shown_.isDimmed, wanted, page_dimmed); }
+  void invite(bool wanted) const { set(shown_.isInviting, wanted, page_inviting); }
 
  private:
   template <class Value, class Wanted>
@@ -167,6 +169,7 @@ void FormPage::mirror() {
     std::visit(mirror, entries[i].control);
     mirror.state(entries[i]);
     mirror.voice(name_, entries[i]);
+    mirror.invite(isInviting(name_, *form_, entries[i]));
     if (entries[i].name == kMonsterPicture) mirror.dim(isDim);
   }
   if (const auto* const sheet = dynamic_cast<const FHero*>(form_)) showHeads(*sheet);

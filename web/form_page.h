@@ -27,6 +27,7 @@ struct Shown {
   bool isHeaded = true;  // whether the rows have all that goes with them
   int selected = -1;
   bool isDimmed = false;
+  bool isInviting = false;
 };
 
 class FormPage {

@@ -30,6 +30,8 @@ void page_spoken(const char* id, const char* words);
 void page_key(const char* id, int key);
 // Lets a picture step back behind what is done.
 void page_dimmed(const char* id, bool dimmed);
+// Lets an element stand out as one that calls for a click.
+void page_inviting(const char* id, bool inviting);
 // Takes all rows of a list away; adds one below the others; selects one, -1 for none.
 void page_clear(const char* id);
 void page_row(const char* id, const char* text);

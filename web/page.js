@@ -210,6 +210,8 @@ mergeInto(LibraryManager["library"], {
   },
   page_dimmed__deps: ['$page'],
   page_dimmed: function (id, dimmed) { page.element(id).toggleAttribute('data-dimmed', dimmed); },
+  page_inviting__deps: ['$page'],
+  page_inviting: function (id, inviting) { page.element(id).toggleAttribute('data-inviting', inviting); },
   page_clear__deps: ['$page'],
   page_clear: function (id) { return page.element(id).replaceChildren(); },
   page_row__deps: ['$page'],

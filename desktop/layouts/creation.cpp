@@ -77,7 +77,6 @@ QWidget* saving(FormWindow& window) {
   QWidget& frame = window.at("Frame5");
   auto* row = within<QHBoxLayout>(window, frame, {12, 8, 12, 8}, 6);
   auto& save = window.at<QPushButton>("Save");
-  theme::makePrimary(save);
   window.unit().atLeast(save, 96, 40);
   row->addWidget(&label(window, "Label4(3)", Type::heading));
   row->addWidget(&save);

@@ -108,8 +108,6 @@ QVBoxLayout* figuresOfBoth(FormWindow& window) {
 QVBoxLayout* reports(FormWindow& window) {
   layOutReport(window, kDealt);
   layOutReport(window, kTaken);
-  // Death puts the keyboard there, and what is to be done next lights up.
-  theme::makePrimary(window.at(kTaken.close));
   QLabel& warning = words(window, "Uwaga", Type::heading, Qt::AlignVCenter);
   warning.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   window.unit().fixed(warning, 0, kHead);
@@ -170,7 +168,6 @@ QFrame* actions(FormWindow& window) {
   }
   auto& next = window.at<QPushButton>("NastTura");
   setType(window, next, Type::heading);
-  theme::makePrimary(next);
   window.unit().atLeast(next, 190, 76);
   grid.addWidget(&next, 0, column, 2, 1);
   return frame;

@@ -138,7 +138,6 @@ QVBoxLayout* scene(FormWindow& window) {
 QGridLayout* chances(FormWindow& window) {
   auto& end = window.at<QPushButton>("Zakoncz");
   setType(window, end, Type::heading);
-  theme::makePrimary(end);
   window.unit().atLeast(end, 0, 60);
   auto* grid = bare<QGridLayout>(window, 10);
   window.unit().spacing(*grid, 14, 8);

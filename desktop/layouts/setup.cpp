@@ -34,7 +34,8 @@ QGridLayout* players(FormWindow& window) {
     auto& file = window.at<QLineEdit>("gracz", i);
     auto& create = window.at<QPushButton>("GraczM", i);
     window.unit().atLeast(file, 0, 32);
-    window.unit().atLeast(create, 110, 36);
+    setType(window, create, Type::heading);
+    window.unit().atLeast(create, 110, 40);
     grid->addLayout(shield(window, i), 0, i);
     grid->addWidget(&file, 1, i);
     grid->addWidget(&create, 2, i);
@@ -57,7 +58,6 @@ QHBoxLayout* start(FormWindow& window) {
   auto& button = window.at<QPushButton>("Start");
   setType(window, button, Type::heading);
   window.unit().fixed(points, 96, 34);
-  theme::makePrimary(button);
   window.unit().atLeast(button, 200, 52);
   row->addWidget(&label(window, "Label2", Type::heading));
   row->addWidget(&points);

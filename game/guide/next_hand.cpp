@@ -57,10 +57,6 @@ bool hasStaffInHand(Form& form) {
   return false;
 }
 
-bool hasFallen(Form& form) {
-  return isUsable(form, "CloseDMG") && get<Label>(form, "OpisDMG").Caption == verdicts::kDeath;
-}
-
 // A blow is open; behind a spell only with a staff.
 bool canStrike(Form& form) {
   return isUsable(form, "Atak") && hasChosen(form, "Bron") && (isUsable(form, "Rzuc") || hasStaffInHand(form));
@@ -84,6 +80,10 @@ bool isTypedIn(Form& form, const std::string& name) {
 }
 
 }  // namespace
+
+bool hasFallen(Form& form) {
+  return isUsable(form, "CloseDMG") && get<Label>(form, "OpisDMG").Caption == verdicts::kDeath;
+}
 
 std::string NextHand::begin(const std::string& screen, Form& form) {
   if (screen == screens::kSetUp) return beginSetUp(form);

@@ -27,6 +27,9 @@ class NextHand {
   bool castsInVain_ = false;  // in this fight
 };
 
+// Whether the report of a fight that is open tells of the hero's death.
+bool hasFallen(Form& form);
+
 // The control that Escape presses on a screen: what closes a report or the sheet. Empty when nothing
 // is open that it could close.
 std::string escapeControl(const std::string& screen, Form& form);

@@ -63,6 +63,52 @@ TEST(Looks, AWallFillsWhatThePicturesOfTheTitleLeave) {
   }
 }
 
+// The colour of a point of a widget as it stands in its window.
+QColor colourAt(QWidget& widget, QPoint place) {
+  QWidget& window = *widget.window();
+  return window.grab().toImage().pixelColor(
+      (QPointF(widget.mapTo(&window, place)) * window.devicePixelRatioF()).toPoint());
+}
+
+// The face of a button beside its words.
+QColor faceOf(QWidget& button) { return colourAt(button, {14, button.height() / 2}); }
+
+TEST(Looks, TheStepToTakeIsLit) {
+  Stage stage;
+  setTheTable(stage.world);
+  stage.start();
+  const auto face = [&](const char* name) { return faceOf(stage.at("Main", name)); };
+  EXPECT_EQ(face("GraczM(0)"), theme::kPrimary);
+  EXPECT_EQ(face("GraczM(1)"), theme::kButton);
+  EXPECT_EQ(face("Start"), theme::kButton);
+  EXPECT_TRUE(stage.isEnabled("Main", "Start"));
+  stage.click("Main", "GraczM(0)");
+  stage.click("CTmhero", "Save");
+  EXPECT_EQ(face("GraczM(0)"), theme::kButton);
+  EXPECT_EQ(face("Start"), theme::kPrimary);
+}
+
+TEST(Looks, WhatCanBeBoughtStandsOutFromWhatIsOwned) {
+  Stage stage;
+  Bohater hero = richHero();
+  hero.MaCzar(6) = false;
+  hero.MaCzar(3) = false;
+  hero.Ile_jeszcze = 1;
+  setShop(stage.world, hero);
+  stage.open({"CTsklep"});
+  const auto edge = [&](const char* name) { return colourAt(stage.at("CTsklep", name), {60, 1}); };
+  stage.window("CTsklep").focusOn("w1");
+  EXPECT_EQ(edge("Czarn(6)"), theme::kInk);
+  EXPECT_NE(edge("Czarn(3)"), theme::kInk) << "too dear";
+  EXPECT_NE(edge("Czarn(1)"), theme::kInk) << "owned";
+  EXPECT_EQ(colourAt(stage.at("CTsklep", "Czarn(1)"), {100, 12}), theme::kPanel);
+  EXPECT_EQ(colourAt(stage.at("CTsklep", "Czarn(3)"), {100, 12}), theme::kPlate);
+  EXPECT_TRUE(stage.isRed("CTsklep", "Czarn(1)"));
+  stage.click("CTsklep", "Czarn(6)");
+  stage.window("CTsklep").focusOn("w1");
+  EXPECT_NE(edge("Czarn(6)"), theme::kInk) << "bought";
+}
+
 TEST(Looks, EveryPlayerHasAShieldAboveHisFile) {
   Stage stage;
   stage.start();

@@ -121,6 +121,32 @@ class Looks(InBrowser):
             self.page.click("CTmhero", f"Klasa({number})")
             self.assertEqual(self.emblem(), [f"/klasa-{number + 1}.png"])
 
+    def style(self, name, prop):
+        return self.page.script("return getComputedStyle(document.getElementById(arguments[0]))[arguments[1]]", name, prop)
+
+    def test_the_step_to_take_is_lit(self):
+        def lit():
+            return [name for name in ("GraczM(0)", "GraczM(1)", "Start")
+                    if self.style(f"Main.{name}", "backgroundColor") == "rgb(240, 184, 64)"]
+        self.assertEqual(lit(), ["GraczM(0)"])
+        self.page.click("Main", "gracz(0)")
+        self.page.click("CTmhero", "Save")
+        self.assertEqual(lit(), ["Start"])
+
+    def test_what_can_be_bought_stands_out_from_what_is_owned(self):
+        self.page.click("Main", "gracz(0)")
+        ink, nothing = "rgb(28, 23, 20)", "rgba(0, 0, 0, 0)"
+        self.assertEqual(self.style("CTmhero.Czarn(0)", "borderTopColor"), ink)
+        self.page.click("CTmhero", "Czarn(0)")
+        self.page.script("document.activeElement.blur()")
+        self.assertNotEqual(self.style("CTmhero.Czarn(0)", "borderTopColor"), ink)
+        self.assertEqual(self.style("CTmhero.Czarn(0)", "backgroundColor"), nothing)
+        for name in ("Czarn(1)", "Czarn(2)", "Czarn(3)", "Czarn(6)", "Czarn(9)"):
+            self.page.click("CTmhero", name)
+        self.assertEqual(self.page.script("return document.getElementById('CTmhero.Ile_jeszcze').textContent"), "0")
+        self.assertNotEqual(self.style("CTmhero.Czarn(7)", "borderTopColor"), ink)
+        self.assertNotEqual(self.style("CTmhero.Czarn(7)", "backgroundColor"), nothing)
+
     def test_every_zone_has_its_own_tint_and_emblem(self):
         self.page.click("Main", "gracz(0)")
         self.page.click("CTmhero", "Save")

@@ -1,0 +1,38 @@
+#include "game/guide/inviting.h"
+
+#include "flow/text/number_text.h"
+#include "game/guide/look.h"
+#include "game/guide/next_hand.h"
+#include "game/guide/spoken.h"
+#include "game/names/names.h"
+
+namespace brolgan {
+
+namespace {
+
+using guide::get;
+
+// The step to take; without a hero there is nothing to start.
+std::string stepOn(const std::string& screen, Form& form) {
+  if (screen == screens::kSetUp) return get<Label>(form, "Czygra(0)").Caption.empty() ? "GraczM(0)" : "Start";
+  if (screen == screens::kCreation) return "Save";
+  if (screen == screens::kPreparation) return "Zakoncz";
+  if (screen == screens::kFight) return hasFallen(form) ? "CloseDMG" : "NastTura";
+  return {};
+}
+
+bool isPaidFor(Form& form, const ControlEntry& good) {
+  const std::string price = member(good.name == "Czarn" ? "czarc" : "Speccena", good.index);
+  const auto asked = parseNumber(get<Label>(form, price).Caption);
+  const auto points = parseNumber(get<Label>(form, "Ile_jeszcze").Caption);
+  return asked && points && *asked <= *points;
+}
+
+}  // namespace
+
+bool isInviting(const std::string& screen, Form& form, const ControlEntry& entry) {
+  if (isCheckable(screen, entry)) return guide::isUsable(entry) && !isChecked(entry) && isPaidFor(form, entry);
+  return entry.fullName() == stepOn(screen, form);
+}
+
+}  // namespace brolgan

@@ -1,0 +1,73 @@
+// What calls for a click on a screen as it stands.
+#include "game/guide/inviting.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/desktop/scenes.h"
+
+namespace brolgan::test {
+namespace {
+
+using Names = std::vector<std::string>;
+
+class Inviting : public testing::Test {
+ protected:
+  Names on(const std::string& screen) {
+    Names names;
+    Form& form = world.form(screen);
+    for (const ControlEntry& entry : form.controls().entries()) {
+      if (isInviting(screen, form, entry)) names.push_back(entry.fullName());
+    }
+    return names;
+  }
+  World world;
+};
+
+TEST_F(Inviting, TheSetUpAsksForAHeroFirstAndThenForTheStart) {
+  setTheTable(world);
+  world.runtime.Show("Main");
+  EXPECT_EQ(on("Main"), Names{"GraczM(0)"});
+  world.click("Main", "GraczM(0)");
+  EXPECT_EQ(on("Main"), Names{"Start"});
+}
+
+TEST_F(Inviting, GoodsThatThePointsPayForCallForAClick) {
+  setCreation(world, 3);
+  world.runtime.Show("CTmhero");
+  EXPECT_EQ(on("CTmhero"), (Names{"Czarn(0)", "Czarn(1)", "Czarn(2)", "Czarn(6)", "Czarn(7)", "Czarn(9)", "Spec(0)",
+                                  "Spec(2)", "Save"}));
+  world.click("CTmhero", "Czarn(0)");
+  world.click("CTmhero", "Czarn(1)");
+  EXPECT_EQ(on("CTmhero"), (Names{"Czarn(6)", "Spec(0)", "Spec(2)", "Save"}));
+}
+
+TEST_F(Inviting, WhatIsOwnedCallsForNoClick) {
+  Bohater hero = richHero();
+  hero.MaCzar(6) = false;
+  hero.MaSpec(0) = true;
+  setShop(world, hero);
+  world.runtime.Show("CTsklep");
+  EXPECT_EQ(on("CTsklep"), (Names{"Czarn(6)", "Spec(2)"}));
+}
+
+TEST_F(Inviting, TheFightAsksForTheNextRoundUntilTheHeroHasFallen) {
+  FightSetup setup = plainFight();
+  setup.PotworPierwszy = 1;
+  setFight(world, plainHero(), setup);
+  world.roll(1, 4, {1});
+  world.runtime.Show("Fight");
+  EXPECT_EQ(on("Fight"), Names{"NastTura"});
+}
+
+TEST_F(Inviting, DeathAsksForThePlaster) {
+  FightSetup setup = plainFight();
+  setup.PotworPierwszy = 1;
+  setup.potwor.Atak = {1, 1, 1, 100};
+  setFight(world, plainHero(), setup);
+  world.roll(1, 1, {1});
+  world.runtime.Show("Fight");
+  EXPECT_EQ(on("Fight"), Names{"CloseDMG"});
+}
+
+}  // namespace
+}  // namespace brolgan::test
