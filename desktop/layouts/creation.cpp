@@ -20,6 +20,7 @@ constexpr std::array<const char*, kClasses> kEmblems = {"klasa-1.png", "klasa-2.
                                                         "klasa-5.png", "klasa-6.png", "klasa-7.png", "klasa-8.png",
                                                         "klasa-9.png", "klasa-10.png"};
 constexpr int kEmblem = 104;
+constexpr int kBook = 96;
 
 // The emblem of the class in hand.
 class ClassEmblem : public PictureWidget {
@@ -123,13 +124,13 @@ QGridLayout* withPicture(FormWindow& window, const char* department, int picture
 void layOutCreation(FormWindow& window) {
   layOutStatistics(window);
   layOutWeapons(window, kHeadings);
-  layOutSpells(window);
+  layOutSpells(window, kBook);
   layOutGear(window);
   auto* middle = bare<QVBoxLayout>(window, 10);
   middle->addWidget(&window.at("fstat"));
   middle->addLayout(withPicture(window, "fbron", 0, 46, Qt::AlignRight | Qt::AlignTop, {0, 8, 14, 0}), 1);
   auto* right = bare<QVBoxLayout>(window, 10);
-  right->addLayout(withPicture(window, "fczar", 1, 96, Qt::AlignRight | Qt::AlignBottom, {0, 0, 14, 10}), 3);
+  right->addLayout(withPicture(window, "fczar", 1, kBook, Qt::AlignRight | Qt::AlignBottom, {0, 0, 14, 10}), 3);
   right->addLayout(withPicture(window, "Frame4", 2, 58, Qt::AlignLeft | Qt::AlignBottom, {12, 0, 0, 8}), 1);
   auto* left = new QWidget(&window.page());
   left->setLayout(person(window));

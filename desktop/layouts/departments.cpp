@@ -11,10 +11,23 @@ namespace brolgan::desktop {
 
 namespace {
 
-// A name, a gap, its buttons.
-constexpr int kGapColumn = 1;
-constexpr int kButtonColumn = 2;
+// The stripes of a table begin before its words and end behind them.
+constexpr int kInset = 6;
+
+// An inset, a name, a gap, its buttons.
+constexpr int kNameColumn = 1;
+constexpr int kGapColumn = 2;
+constexpr int kButtonColumn = 3;
 constexpr int kGap = 7;
+
+// A grid with an inset before its first column of words and behind its last; the words begin where those of
+// a table without stripes do.
+QGridLayout& stripedGrid(FormWindow& window, QWidget& frame, int across, int down, int lastColumn) {
+  auto& grid = *within<QGridLayout>(window, frame, {10 - kInset, 10, 10 - kInset, 10}, 0);
+  window.unit().spacing(grid, across, down);
+  for (const int inset : {0, lastColumn + 1}) window.unit().column(grid, inset, kInset - across);
+  return grid;
+}
 
 void addButtons(FormWindow& window, QGridLayout& grid, int row, int index) {
   int column = kButtonColumn;
@@ -80,6 +93,8 @@ void paleWithoutChoice(const QListWidget& list, const std::vector<QLabel*>& deta
 constexpr Desk kMelee = {0, "LBronww", {"BWnazwa", "BWdmg", "BWcena", "BWopis"}, "Kupww", "Sprzedajww"};
 constexpr Desk kRanged = {1, "Lbronss", {"BSnazwa", "BSdmg", "BScena", "BSopis"}, "Kupss", "Sprzedajss"};
 
+constexpr int kAboveLegend = 8;
+
 // Below the list and a gap.
 constexpr int kDetails = 4;
 constexpr int kAboveDetails = 2;
@@ -116,17 +131,16 @@ void layOutDesk(FormWindow& window, QGridLayout& grid, int column, const Desk& d
 }  // namespace
 
 void layOutStatistics(FormWindow& window) {
-  QGridLayout& grid = *gridIn(window, window.at("fstat"), 10, 4);
-  window.unit().spacing(grid, 3, 4);
+  QGridLayout& grid = stripedGrid(window, window.at("fstat"), 3, 4, kCurrentColumn);
   window.unit().column(grid, kGapColumn, kGap);
-  grid.addWidget(&label(window, "Label4(0)", Type::heading), 0, 0, 1, kCurrentColumn);
+  grid.addWidget(&label(window, "Label4(0)", Type::heading), 0, kNameColumn, 1, kCurrentColumn - kNameColumn);
   for (int i = 0; i < kStatistics; ++i) {
-    grid.addWidget(&window.at<QLabel>("Label5", i), i + 1, 0);
+    grid.addWidget(&window.at<QLabel>("Label5", i), i + 1, kNameColumn);
     addButtons(window, grid, i + 1, i);
     addLadder(window, grid, i + 1, i);
     addCurrent(window, grid, i + 1, i);
     window.unit().row(grid, i + 1, 27);
-    if (i % 2 == 0) addStripe(grid, i + 1, kCurrentColumn + 1);
+    if (i % 2 == 0) addStripe(grid, i + 1, kCurrentColumn + 2);
   }
   grid.setColumnStretch(kCurrentColumn, 1);
 }
@@ -141,12 +155,14 @@ void layOutWeapons(FormWindow& window, const WeaponHeadings& headings) {
   grid.setRowStretch(2, 1);
 }
 
-void layOutSpells(FormWindow& window) {
-  QGridLayout& grid = *gridIn(window, window.at("fczar"), 10, 3);
-  window.unit().spacing(grid, 7, 5);
-  grid.addWidget(&label(window, "Label4(1)", Type::heading), 0, 0);
-  // Name, price, description: the prices stand between, where the eye compares them.
-  constexpr std::array<int, 3> columns = {0, 2, 1};
+void layOutSpells(FormWindow& window, int legendHeight) {
+  // Name, price, a gap, description: the prices stand between, where the eye compares them.
+  constexpr int kPriceColumn = kNameColumn + 1;
+  constexpr int kEffectColumn = kPriceColumn + 2;
+  QGridLayout& grid = stripedGrid(window, window.at("fczar"), 2, 5, kEffectColumn);
+  grid.addWidget(&label(window, "Label4(1)", Type::heading), 0, kNameColumn);
+  window.unit().column(grid, kPriceColumn + 1, 8);
+  constexpr std::array<int, 3> columns = {kNameColumn, kEffectColumn, kPriceColumn};
   for (int i = 0; i < 3; ++i) {
     auto& heading = window.at<QLabel>("Label11", i);
     makeBold(heading);
@@ -155,31 +171,31 @@ void layOutSpells(FormWindow& window) {
   for (int i = 0; i < kSpells; ++i) {
     TextLabel& effect = label(window, member("Label13", i), Type::small);
     effect.setWordWrap(true);
-    grid.addWidget(&window.at<ClickLabel>("Czarn", i), i + 2, 0);
-    grid.addWidget(&alignCentre(window.at<QLabel>("czarc", i)), i + 2, 1);
-    grid.addWidget(&effect, i + 2, 2);
+    grid.addWidget(&window.at<ClickLabel>("Czarn", i), i + 2, kNameColumn);
+    grid.addWidget(&alignCentre(window.at<QLabel>("czarc", i)), i + 2, kPriceColumn);
+    grid.addWidget(&effect, i + 2, kEffectColumn);
     window.unit().row(grid, i + 2, 24);
-    if (i % 2 == 0) addStripe(grid, i + 2, 3);
+    if (i % 2 == 0) addStripe(grid, i + 2, kEffectColumn + 2);
   }
-  int row = kSpells + 2;
-  window.unit().row(grid, row++, 3);
-  for (const char* name : {"Label10(0)", "Label10(1)", "Label12"}) {
-    grid.addWidget(&label(window, name, Type::small), row++, 0, 1, 3);
-  }
-  grid.setColumnStretch(2, 1);
+  auto* legend = bare<QVBoxLayout>(window, 3);
+  window.unit().margins(*legend, {0, kAboveLegend, 0, 0});
+  for (const char* name : {"Label10(0)", "Label10(1)", "Label12"}) legend->addWidget(&label(window, name, Type::small));
+  grid.addLayout(legend, kSpells + 2, kNameColumn, 1, kEffectColumn, Qt::AlignVCenter);
+  window.unit().row(grid, kSpells + 2, legendHeight);
+  grid.setColumnStretch(kEffectColumn, 1);
 }
 
 void layOutGear(FormWindow& window) {
-  QGridLayout& grid = *gridIn(window, window.at("Frame4"), 10, 4);
   constexpr int kCount = kButtonColumn + 2;
   constexpr int kName = kCount + 2;
   constexpr int kPrice = kName + 1;
-  grid.addWidget(&label(window, "Label4(2)", Type::heading), 0, 0, 1, kPrice + 1);
+  QGridLayout& grid = *gridIn(window, window.at("Frame4"), 10, 4);
+  grid.addWidget(&label(window, "Label4(2)", Type::heading), 0, kNameColumn, 1, kPrice);
   for (int i = 0; i < kSupplies; ++i) {
     QLabel& count = alignRight(window.at<QLabel>("wyp", i));
     makeBold(count);
     window.unit().atLeast(count, 44, 0);
-    grid.addWidget(&window.at<QLabel>(i == kGrenade ? "Label17" : "ammo"), i + 1, 0);
+    grid.addWidget(&window.at<QLabel>(i == kGrenade ? "Label17" : "ammo"), i + 1, kNameColumn);
     addButtons(window, grid, i + 1, kStatistics + i);
     grid.addWidget(&count, i + 1, kCount);
   }

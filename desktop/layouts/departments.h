@@ -17,7 +17,8 @@ struct WeaponHeadings {
 
 void layOutStatistics(FormWindow& window);
 void layOutWeapons(FormWindow& window, const WeaponHeadings& headings);
-void layOutSpells(FormWindow& window);
+// The legend takes that height at least.
+void layOutSpells(FormWindow& window, int legendHeight = 0);
 void layOutGear(FormWindow& window);
 
 }  // namespace brolgan::desktop

@@ -15,6 +15,10 @@ namespace {
 constexpr WeaponHeadings kHeadings = {{0, 1, 2, 3}, {7, 6, 5, 4}};
 constexpr int kZones = 12;
 constexpr int kEmblem = 30;
+constexpr int kAroundStall = 8;
+// The shares of the shelf and of the lantern that leave the same room at both sides of each.
+constexpr int kShelfShare = 9;
+constexpr int kLanternShare = 4;
 
 // A department and the picture behind it share one place.
 QGridLayout* stacked(FormWindow& window, const char* frame, int picture) {
@@ -23,7 +27,10 @@ QGridLayout* stacked(FormWindow& window, const char* frame, int picture) {
   shut.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
   shut.setCover(window.at(frame));
   keepRoom(window.at(frame));
-  place->addWidget(&shut, 0, 0);
+  auto* behind = bare<QVBoxLayout>(window, 0);
+  window.unit().margins(*behind, {0, kAroundStall, 0, kAroundStall});
+  behind->addWidget(&shut);
+  place->addLayout(behind, 0, 0);
   place->addWidget(&window.at(frame), 0, 0);
   shut.lower();
   return place;
@@ -76,12 +83,12 @@ QWidget* leftColumn(FormWindow& window) {
 }
 
 QHBoxLayout* signs(FormWindow& window) {
-  auto* row = bare<QHBoxLayout>(window, 8);
+  auto* row = bare<QHBoxLayout>(window, 0);
   for (const int i : {0, 4}) {
     auto& picture = window.at<PictureWidget>("pics", i);
     window.unit().atLeast(picture, 60, 60);
     picture.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    row->addWidget(&picture, i == 0 ? 4 : 1);
+    row->addWidget(&picture, i == 0 ? kShelfShare : kLanternShare);
   }
   return row;
 }

@@ -109,6 +109,68 @@ TEST(Looks, WhatCanBeBoughtStandsOutFromWhatIsOwned) {
   EXPECT_NE(edge("Czarn(6)"), theme::kInk) << "bought";
 }
 
+TEST(Looks, TheStripesOfATableBeginBeforeItsWords) {
+  Stage stage;
+  setShop(stage.world, richHero());
+  stage.open({"CTsklep"});
+  for (const auto& [first, last] : {std::pair("Label5(0)", "akt(0)"), std::pair("Czarn(0)", "Label13(0)")}) {
+    QWidget& begin = stage.at("CTsklep", first);
+    QWidget& end = stage.at("CTsklep", last);
+    EXPECT_EQ(colourAt(begin, {-4, begin.height() / 2}), theme::kStripe) << first;
+    EXPECT_EQ(colourAt(end, {end.width() + 3, end.height() / 2}), theme::kStripe) << last;
+  }
+}
+
+TEST(Looks, TheTablesOfAColumnBeginAtOneEdge) {
+  Stage stage;
+  setShop(stage.world, richHero());
+  setCreation(stage.world, 20);
+  stage.open({"CTsklep", "CTmhero"});
+  for (const char* const form : {"CTsklep", "CTmhero"}) {
+    const auto left = [&](const char* name) { return placeOf(stage.at(form, name)).left(); };
+    EXPECT_EQ(left("Label5(0)"), left("Label3")) << form;
+    EXPECT_EQ(left("Label4(0)"), left("Label3")) << form;
+    EXPECT_EQ(left("Czarn(0)"), left("Label17")) << form;
+    EXPECT_EQ(left("Label10(0)"), left("Label4(2)")) << form;
+  }
+}
+
+TEST(Looks, TheLegendStandsClearOfTheLastSpell) {
+  Stage stage;
+  setShop(stage.world, richHero());
+  setCreation(stage.world, 20);
+  stage.open({"CTsklep", "CTmhero"});
+  for (const char* const form : {"CTsklep", "CTmhero"}) {
+    EXPECT_GE(placeOf(stage.at(form, "Label10(0)")).top() - placeOf(stage.at(form, "Czarn(9)")).bottom(), 10) << form;
+  }
+}
+
+TEST(Looks, TheSignsOfTheShopStandInTheMiddleOfTheirColumn) {
+  Stage stage;
+  setShop(stage.world, richHero());
+  stage.open({"CTsklep"});
+  const QRect column = placeOf(stage.at("CTsklep", "Frame4"));
+  const auto drawn = [&](const char* name, QSize shape) {
+    const QRect place = placeOf(stage.at("CTsklep", name));
+    QRect picture(QPoint(), shape.scaled(place.size(), Qt::KeepAspectRatio));
+    picture.moveCenter(place.center());
+    return picture;
+  };
+  const QRect shelf = drawn("pics(0)", {768, 240});
+  const QRect lantern = drawn("pics(4)", {240, 240});
+  EXPECT_NEAR(shelf.left() - column.left(), column.right() - lantern.right(), 8);
+  EXPECT_GT(lantern.left() - shelf.right(), 20);
+}
+
+TEST(Looks, AShutStallKeepsClearOfThePanelsAroundIt) {
+  Stage stage;
+  setShop(stage.world, richHero(), 2);
+  stage.open({"CTsklep"});
+  const QRect stall = placeOf(stage.at("CTsklep", "pics(1)"));
+  EXPECT_GE(placeOf(stage.at("CTsklep", "Frame4")).top() - stall.bottom(), 16);
+  EXPECT_GE(stall.top(), placeOf(stage.at("CTsklep", "fstat")).top() + 8);
+}
+
 TEST(Looks, EveryPlayerHasAShieldAboveHisFile) {
   Stage stage;
   stage.start();
@@ -308,6 +370,7 @@ TEST(Looks, ANameStandsClearOfWhatFollowsIt) {
   stage.open({"CTsklep", "CTmhero"});
   for (const char* const form : {"CTsklep", "CTmhero"}) {
     EXPECT_GT(gapBehind(stage, form, "Label6(1)", "BWdmg"), 6) << form;
+    EXPECT_GT(gapBehind(stage, form, "Label11(2)", "Label11(1)"), 10) << form;
     EXPECT_GT(gapBehind(stage, form, "ammo", form == std::string("CTsklep") ? "PLUS(8)" : "MINUS(8)"), 8) << form;
   }
   EXPECT_GT(gapBehind(stage, "CTmhero", "Label5(5)", "MINUS(5)"), 8);
