@@ -48,8 +48,11 @@ constexpr int kPlatePadding = 8;
 constexpr int kBandIndent = 12;
 
 constexpr int kBadgeEdge = 3;
+constexpr qreal kMarkEdge = 1.5;
 constexpr int kTipMargin = 12;
 constexpr int kRowSpacing = 4;
+// In pixels, what the common style leaves above and below the words of an option and a small window lacks.
+constexpr int kOptionSlack = 2;
 constexpr int kKeySize = 10;
 constexpr QMargins kKeyMargins(5, 1, 6, 3);
 
@@ -150,12 +153,32 @@ void drawPanel(QPainter& painter, const QRect& place, const QWidget* widget) {
 
 void drawBadge(QPainter& painter, const QRect& place, const QWidget* widget) {
   const int edge = Lengths(widget).of(kBadgeEdge);
-  draw(painter, place, {theme::kInk, theme::kButton, {edge, edge, edge, edge}, place.height() / 2});
+  const QColor& ring = is(widget, kIsRinged) ? theme::kButton : theme::kInk;
+  draw(painter, place, {theme::kInk, ring, {edge, edge, edge, edge}, place.height() / 2});
 }
 
 void drawTip(QPainter& painter, const QRect& place) {
   painter.fillRect(place, theme::kInk);
   painter.fillRect(place.marginsRemoved(kEvenEdge), theme::kButtonHover);
+}
+
+// The mark of one choice among several.
+void drawMark(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+  const qreal edge = Unit::of(widget) * kMarkEdge;
+  const QRectF ring = QRectF(option.rect).adjusted(edge, edge, -edge, -edge);
+  const bool isEnabled = has(option, QStyle::State_Enabled);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(isEnabled ? theme::kFieldEdge : theme::kDisabledEdge, edge));
+  painter.setBrush(theme::kPlate);
+  painter.drawEllipse(ring);
+  if (has(option, QStyle::State_On)) {
+    const qreal inset = ring.width() / 4;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isEnabled ? theme::kInk : theme::kDisabledEdge);
+    painter.drawEllipse(ring.adjusted(inset, inset, -inset, -inset));
+  }
+  painter.restore();
 }
 
 void drawArrow(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
@@ -290,6 +313,8 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
       return drawTip(*painter, option->rect);
     case PE_IndicatorArrowDown:
       return drawArrow(*option, *painter, widget);
+    case PE_IndicatorRadioButton:
+      return drawMark(*option, *painter, widget);
     default:
       QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
@@ -405,6 +430,8 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
       return contents.grownBy(length.of(kFieldMargins));
     case CT_ComboBox:
       return contents.grownBy(length.of(kFieldMargins)) + QSize(length.of(kArrowWidth + kEdge), 0);
+    case CT_RadioButton:
+      return QProxyStyle::sizeFromContents(type, option, contents, widget) - QSize(0, kOptionSlack);
     case CT_GroupBox:
       return contents.grownBy(length.of(kEvenEdge)) + QSize(0, bandOf(widget).isValid() ? 0 : length.of(kPlateAbove));
     case CT_ItemViewItem: {

@@ -16,6 +16,7 @@ inline constexpr const char* kIsPanel = "panel";        // A frame around a grou
 inline constexpr const char* kIsBold = "bold";          // Words that are bold in every colour.
 inline constexpr const char* kAccessKey = "accessKey";  // The letter that reaches it with Alt.
 inline constexpr const char* kIsBadge = "badge";        // A round plate with a figure.
+inline constexpr const char* kIsRinged = "ringed";      // A badge with a light ring.
 inline constexpr const char* kIsPrimary = "primary";    // What calls for a click, as the button that leads on.
 inline constexpr const char* kTint = "tint";            // The colour of the face of a button at rest.
 inline constexpr const char* kBand = "band";            // The colour of the band that heads a panel.

@@ -98,6 +98,7 @@ QFont typeface(Type type) {
       return figureFont();
     case Type::text:
     case Type::small:
+    case Type::choice:
       break;
   }
   return textFont();
@@ -109,6 +110,8 @@ qreal sizeOf(Type type) {
       return 14;
     case Type::small:
       return 13.25;
+    case Type::choice:
+      return 15.5;
     case Type::heading:
     case Type::figure:
       return 18.5;
@@ -140,6 +143,8 @@ void makeBadge(QLabel& label) {
   label.setFrameShape(QFrame::StyledPanel);
   label.setForegroundRole(QPalette::BrightText);
 }
+
+void makeRinged(QWidget& badge) { badge.setProperty(kIsRinged, true); }
 
 void makeNarrow(QWidget& button) { button.setProperty(kIsNarrow, true); }
 

@@ -51,7 +51,7 @@ void apply(QApplication& application);
 QColor colourOf(Colour colour);
 
 // The kinds of type. Their sizes, in units, are those of the letters' bodies.
-enum class Type { text, small, heading, title, figure, bigFigure, blow };
+enum class Type { text, small, choice, heading, title, figure, bigFigure, blow };
 QFont typeface(Type type);
 qreal sizeOf(Type type);
 // The face of the figures within words set in that font: the serif's own figures are uneven.
@@ -61,6 +61,8 @@ QFont figuresWithin(const QFont& font);
 // a small one.
 void makePanel(QFrame& frame);
 void makeBadge(QLabel& label);
+// Gives a round plate a light ring, by which it stands out from a picture.
+void makeRinged(QWidget& badge);
 void makeNarrow(QWidget& button);
 // Makes a frame a panel with a band of that colour along its upper edge, for light words; the title of a
 // group box stands in it.

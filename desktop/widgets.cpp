@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionButton>
 #include <QToolTip>
 #include <algorithm>
 #include <utility>
@@ -31,6 +32,13 @@ constexpr qreal kLetterPlate = 13;
 constexpr qreal kRaisedEdge = 1.5;
 constexpr qreal kRaisedBelow = 3;
 
+// Around the row of an option, in units.
+constexpr int kBeforeMark = 6;
+constexpr int kBehindWords = 8;
+constexpr int kChosenEdge = 2;
+constexpr int kFocusEdge = 3;
+constexpr int kFrameRadius = 5;
+
 // The device pixels of an area of a widget.
 QSize pixelsOf(const QWidget& widget, QRect area) {
   return (QSizeF(area.size()) * widget.devicePixelRatioF()).toSize();
@@ -41,6 +49,31 @@ QSize pixelsOf(const QWidget& widget, QRect area) {
 bool isPress(const QKeyEvent& event) {
   const auto keys = {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter};
   return !event.isAutoRepeat() && std::find(keys.begin(), keys.end(), event.key()) != keys.end();
+}
+
+// The words of what is chosen are bold, and a frame stands around them.
+void OptionRow::paintEvent(QPaintEvent*) {
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  option.rect.setLeft(Unit::pixels(this, kBeforeMark));
+  const QRect words = style()->subElementRect(QStyle::SE_RadioButtonContents, &option, this);
+  option.rect = style()->subElementRect(QStyle::SE_RadioButtonIndicator, &option, this);
+  QFont face = font();
+  face.setBold(isChecked());
+  QPainter painter(this);
+  painter.setFont(face);
+  const int end = words.left() + QFontMetrics(face).horizontalAdvance(text()) + Unit::pixels(this, kBehindWords);
+  if (isChecked() || hasFocus()) drawFrame(painter, std::min(end, width()));
+  style()->drawPrimitive(QStyle::PE_IndicatorRadioButton, &option, &painter, this);
+  style()->drawItemText(&painter, words, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), text(),
+                        QPalette::WindowText);
+}
+
+void OptionRow::drawFrame(QPainter& painter, int width) {
+  const int edge = Unit::pixels(this, hasFocus() ? kFocusEdge : kChosenEdge);
+  const QColor& face = hasFocus() ? theme::kFocusFace : theme::kPlate;
+  const QColor& colour = hasFocus() ? theme::kFocus : theme::kInk;
+  draw(painter, {0, 0, width, height()}, {face, colour, {edge, edge, edge, edge}, Unit::pixels(this, kFrameRadius)});
 }
 
 QString TipLines::broken(const QString& text, const QFont& font, int width) {

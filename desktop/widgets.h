@@ -20,13 +20,17 @@ class PictureStore;
 // not go on in the next screen.
 bool isPress(const QKeyEvent& event);
 
-// An option that can be clicked on its whole row.
+// An option that can be clicked on its whole row; the chosen one stands in a frame.
 class OptionRow : public QRadioButton {
  public:
   using QRadioButton::QRadioButton;
 
  protected:
   [[nodiscard]] bool hitButton(const QPoint& place) const override { return rect().contains(place); }
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void drawFrame(QPainter& painter, int width);
 };
 
 // Shows the tool tips of the widgets that it watches in lines of a readable length.

@@ -50,19 +50,22 @@ class ClassEmblem : public PictureWidget {
 // The emblem stands beside the first classes, whose names are short.
 QWidget* classes(FormWindow& window) {
   QWidget& frame = window.at("Frame6");
-  auto& grid = *within<QGridLayout>(window, frame, {12, 7, 12, 7}, 5);
-  grid.addWidget(&label(window, "Label14", Type::heading), 0, 0);
+  auto& grid = *within<QGridLayout>(window, frame, {6, 7, 12, 7}, 3);
+  window.unit().column(grid, 0, 6);
+  grid.addWidget(&label(window, "Label14", Type::heading), 0, 1);
   for (int i = 0; i < kClasses; ++i) {
     auto& option = window.at<QRadioButton>("Klasa", i);
+    setType(window, option, Type::choice);
     option.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    grid.addWidget(&option, i + 1, 0);
+    grid.addWidget(&option, i + 1, 0, 1, 2);
     window.unit().row(grid, i + 1, 21);
     grid.setRowStretch(i + 1, 1);
   }
   auto* const emblem = new ClassEmblem(window, &frame);
   window.unit().fixed(*emblem, kEmblem, kEmblem);
   window.pictures().prepare(kEmblems.front(), (QSizeF(emblem->minimumSize()) * window.devicePixelRatioF()).toSize());
-  grid.addWidget(emblem, 0, 0, kClasses + 1, 1, Qt::AlignRight | Qt::AlignTop);
+  grid.setColumnStretch(1, 1);
+  grid.addWidget(emblem, 0, 0, kClasses + 1, 2, Qt::AlignRight | Qt::AlignTop);
   return &frame;
 }
 
@@ -128,7 +131,7 @@ void layOutCreation(FormWindow& window) {
   layOutGear(window);
   auto* middle = bare<QVBoxLayout>(window, 10);
   middle->addWidget(&window.at("fstat"));
-  middle->addLayout(withPicture(window, "fbron", 0, 46, Qt::AlignRight | Qt::AlignTop, {0, 8, 14, 0}), 1);
+  middle->addLayout(withPicture(window, "fbron", 0, 36, Qt::AlignRight | Qt::AlignTop, {0, 4, 12, 0}), 1);
   auto* right = bare<QVBoxLayout>(window, 10);
   right->addLayout(withPicture(window, "fczar", 1, kBook, Qt::AlignRight | Qt::AlignBottom, {0, 0, 14, 10}), 3);
   right->addLayout(withPicture(window, "Frame4", 2, 58, Qt::AlignLeft | Qt::AlignBottom, {12, 0, 0, 8}), 1);

@@ -127,6 +127,7 @@ QFrame* monster(FormWindow& window) {
   window.unit().fixed(picture, kMonster, kMonster);
   TextLabel& left = label(window, "LIle", Type::bigFigure);
   theme::makeBadge(left);
+  theme::makeRinged(left);
   window.unit().atLeast(left, 52, 0);
   window.unit().fixed(left, 0, 52);
   alignCentre(left);

@@ -171,6 +171,45 @@ TEST(Looks, AShutStallKeepsClearOfThePanelsAroundIt) {
   EXPECT_GE(stall.top(), placeOf(stage.at("CTsklep", "fstat")).top() + 8);
 }
 
+TEST(Looks, ThePointsEndWhereTheirColumnDoes) {
+  Stage stage;
+  setShop(stage.world, richHero());
+  setCreation(stage.world, 20);
+  stage.open({"CTsklep", "CTmhero"});
+  for (const char* const form : {"CTsklep", "CTmhero"}) {
+    QWidget& points = stage.at(form, "Ile_jeszcze");
+    EXPECT_EQ(placeOf(points).right(), placeOf(stage.at(form, "Frame5")).right()) << form;
+    EXPECT_EQ(colourAt(points, {points.width() - 2, points.height() / 2}), theme::kInk) << form;
+  }
+}
+
+TEST(Looks, TheClassInHandHasAFrameAndIsBold) {
+  Stage stage;
+  setCreation(stage.world, 20);
+  stage.open({"CTmhero"});
+  stage.click("CTmhero", "Klasa(2)");
+  stage.window("CTmhero").focusOn("Save");
+  const auto edge = [&](int index) { return colourAt(stage.at("CTmhero", member("Klasa", index)), {30, 0}); };
+  EXPECT_EQ(edge(2), theme::kInk);
+  EXPECT_EQ(edge(3), theme::kPanel);
+  const auto ink = [&](int index) {
+    QWidget& option = stage.at("CTmhero", member("Klasa", index));
+    const QImage shown = option.grab(QRect(30, 3, option.width() - 60, option.height() - 6)).toImage();
+    return shareOf(shown, shown.rect(), theme::kInk);
+  };
+  const qreal bold = ink(2);
+  stage.click("CTmhero", "Klasa(3)");
+  stage.window("CTmhero").focusOn("Save");
+  EXPECT_LT(ink(2), bold);
+}
+
+TEST(Looks, TheForgeStandsBesideItsHeadingAlone) {
+  Stage stage;
+  setCreation(stage.world, 20);
+  stage.open({"CTmhero"});
+  EXPECT_LT(placeOf(stage.at("CTmhero", "pics(0)")).bottom(), placeOf(stage.at("CTmhero", "Label7(1)")).top());
+}
+
 TEST(Looks, EveryPlayerHasAShieldAboveHisFile) {
   Stage stage;
   stage.start();

@@ -271,6 +271,8 @@ TEST(Style, ABadgeIsRoundWithALightFigure) {
   theme::makeBadge(shown.widget);
   shown.widget.resize(52, 52);
   EXPECT_EQ(shown.at(26, 10), theme::kInk);
+  EXPECT_EQ(shown.at(1, 26), theme::kInk);
+  theme::makeRinged(shown.widget);
   EXPECT_EQ(shown.at(1, 26), theme::kButton);
   EXPECT_EQ(shown.at(1, 1), theme::kPaper);
   EXPECT_GT(shown.widget.palette().color(shown.widget.foregroundRole()).lightness(), 200);

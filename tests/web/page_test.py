@@ -147,6 +147,13 @@ class Looks(InBrowser):
         self.assertNotEqual(self.style("CTmhero.Czarn(7)", "borderTopColor"), ink)
         self.assertNotEqual(self.style("CTmhero.Czarn(7)", "backgroundColor"), nothing)
 
+    def test_the_chosen_class_alone_has_a_frame(self):
+        self.page.click("Main", "gracz(0)")
+        self.page.click("CTmhero", "Klasa(4)")
+        framed = self.page.script("return [...document.querySelectorAll('#CTmhero .classes label')]"
+                                  ".map((one, row) => getComputedStyle(one).boxShadow === 'none' ? -1 : row).filter((row) => row >= 0)")
+        self.assertEqual(framed, [4])
+
     def test_every_zone_has_its_own_tint_and_emblem(self):
         self.page.click("Main", "gracz(0)")
         self.page.click("CTmhero", "Save")
