@@ -1,7 +1,10 @@
 // The title: two pictures side by side, or one above the other in a tall window, on a wall of stone.
 #include <QGuiApplication>
 #include <QPainter>
+#include <QRegion>
 #include <QResizeEvent>
+#include <algorithm>
+#include <array>
 
 #include "desktop/layouts/grid.h"
 #include "desktop/layouts/layouts.h"
@@ -14,15 +17,17 @@ namespace {
 
 constexpr int kGap = 6;
 
-// The wall fills whatever the pictures leave of the page, in courses of stones that overlap by half.
+// The wall fills whatever the pictures leave of the page, in courses of stones that overlap by half. Where
+// they leave less than a course it is plain.
 class Wall : public QWidget {
  public:
-  using QWidget::QWidget;
+  Wall(std::array<const QWidget*, 2> pictures, QWidget* page) : QWidget(page), pictures_(pictures) {}
 
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     painter.fillRect(rect(), theme::kStone);
+    painter.setClipRegion(withRoom());
     painter.setPen(QPen(theme::kInk, Unit::pixels(this, kJoint)));
     const int width = Unit::pixels(this, kWidth);
     const int height = Unit::pixels(this, kHeight);
@@ -34,6 +39,26 @@ class Wall : public QWidget {
   }
 
  private:
+  // Where a course of stones has room.
+  [[nodiscard]] QRegion withRoom() const {
+    QRegion left = rect();
+    for (const QWidget* const picture : pictures_) {
+      QRect drawn(QPoint(), kShape.scaled(picture->size(), Qt::KeepAspectRatio));
+      drawn.moveCenter(picture->geometry().center());
+      left -= drawn;
+    }
+    QRegion room;
+    const int least = Unit::pixels(this, kHeight);
+    for (const QRect& band : left) {
+      if (std::min(band.width(), band.height()) >= least) room += band;
+    }
+    return room;
+  }
+
+  std::array<const QWidget*, 2> pictures_;
+
+  // The proportion of the pictures.
+  static constexpr QSize kShape{8, 5};
   // In units.
   static constexpr int kWidth = 92;
   static constexpr int kHeight = 34;
@@ -77,7 +102,7 @@ void prepareTitle(PictureStore& pictures, qreal ratio) {
 }
 
 void layOutTitle(FormWindow& window) {
-  auto* const wall = new Wall(&window.page());
+  auto* const wall = new Wall({&window.at("pics(0)"), &window.at("pics(1)")}, &window.page());
   wall->lower();
   auto* row = new QBoxLayout(QBoxLayout::LeftToRight, &window.page());
   window.unit().margins(*row, {kGap, kGap, kGap, kGap});

@@ -63,6 +63,15 @@ TEST(Looks, AWallFillsWhatThePicturesOfTheTitleLeave) {
   }
 }
 
+TEST(Looks, AMarginOfTheTitleThatHasNoRoomForStonesIsPlain) {
+  Stage stage;
+  stage.start();
+  desktop::FormWindow& title = stage.window("Brolgan");
+  const QImage shown = title.grab().scaled(title.size()).toImage();
+  EXPECT_EQ(shareOf(shown, QRect(0, 0, shown.width(), 4), theme::kStone), 1);
+  EXPECT_EQ(shareOf(shown, QRect(0, 0, 4, shown.height()), theme::kStone), 1);
+}
+
 // The colour of a point of a widget as it stands in its window.
 QColor colourAt(QWidget& widget, QPoint place) {
   QWidget& window = *widget.window();

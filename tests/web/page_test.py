@@ -154,6 +154,14 @@ class Looks(InBrowser):
                                   ".map((one, row) => getComputedStyle(one).boxShadow === 'none' ? -1 : row).filter((row) => row >= 0)")
         self.assertEqual(framed, [4])
 
+    def test_the_pictures_of_the_title_have_plain_margins_of_one_width(self):
+        left, gap, right, outline = self.page.script(
+            "const [one, two] = [...document.querySelectorAll('#Brolgan .pictures img')].map((each) => each.getBoundingClientRect());"
+            "return [one.left, two.left - one.right, innerWidth - two.right,"
+            " getComputedStyle(document.getElementById('Brolgan.pics(0)')).outline]")
+        self.assertEqual((left, gap, right), (8, 8, 8))
+        self.assertIn("rgb(143, 130, 98)", outline)
+
     def test_every_zone_has_its_own_tint_and_emblem(self):
         self.page.click("Main", "gracz(0)")
         self.page.click("CTmhero", "Save")
