@@ -1,5 +1,6 @@
 #include "desktop/style.h"
 
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QFontInfo>
 #include <QPainter>
@@ -53,6 +54,8 @@ constexpr int kTipMargin = 12;
 constexpr int kRowSpacing = 4;
 // In pixels, what the common style leaves above and below the words of an option and a small window lacks.
 constexpr int kOptionSlack = 2;
+// Between the ring of the row in focus and its words.
+constexpr int kRowMargin = 4;
 constexpr int kKeySize = 10;
 constexpr QMargins kKeyMargins(5, 1, 6, 3);
 
@@ -125,10 +128,9 @@ QRect buttonContents(const QStyleOption& option, const QWidget* widget) {
 // A line to write in, a list to choose from.
 void drawField(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
   const Lengths length(widget);
-  const QColor face = has(option, QStyle::State_HasFocus) ? theme::kFocusField : theme::kPlate;
   const bool isEnabled = has(option, QStyle::State_Enabled);
   draw(painter, option.rect,
-       {isEnabled ? face : theme::kDisabledFace, edgeColour(option, theme::kFieldEdge),
+       {isEnabled ? theme::kPlate : theme::kDisabledFace, edgeColour(option, theme::kFieldEdge),
         length.of(has(option, QStyle::State_HasFocus) ? kFieldRing : kEvenEdge), length.of(kFieldRadius)});
 }
 
@@ -178,6 +180,18 @@ void drawMark(const QStyleOption& option, QPainter& painter, const QWidget* widg
     painter.setBrush(isEnabled ? theme::kInk : theme::kDisabledEdge);
     painter.drawEllipse(ring.adjusted(inset, inset, -inset, -inset));
   }
+  painter.restore();
+}
+
+// The row of a list on which the keyboard stands.
+void drawRowRing(const QStyleOption& option, QPainter& painter, const QWidget* widget) {
+  const qreal edge = Unit::of(widget) * kEdge;
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(theme::kFocus, edge));
+  painter.setBrush(Qt::NoBrush);
+  const qreal radius = Unit::of(widget) * kFieldRadius;
+  painter.drawRoundedRect(QRectF(option.rect).adjusted(edge / 2, edge / 2, -edge / 2, -edge / 2), radius, radius);
   painter.restore();
 }
 
@@ -287,7 +301,7 @@ void drawKey(QPainter& painter, const QRect& place, const QWidget* widget, const
   painter.restore();
 }
 
-// What scrolls lies on the face of its field, which changes with the focus.
+// What scrolls lies on the face of its field, which changes when it is disabled.
 void Style::polish(QWidget* widget) {
   QProxyStyle::polish(widget);
   if (isLargeField(widget)) static_cast<QAbstractScrollArea*>(widget)->viewport()->setAutoFillBackground(false);
@@ -315,6 +329,9 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
       return drawArrow(*option, *painter, widget);
     case PE_IndicatorRadioButton:
       return drawMark(*option, *painter, widget);
+    case PE_FrameFocusRect:
+      if (qobject_cast<const QAbstractItemView*>(widget) != nullptr) return drawRowRing(*option, *painter, widget);
+      return QProxyStyle::drawPrimitive(element, option, painter, widget);
     default:
       QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
@@ -446,6 +463,7 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   if (metric == PM_ToolTipLabelFrameWidth) return kTipMargin;
+  if (metric == PM_FocusFrameHMargin) return Lengths(widget).of(kRowMargin);
   const int length = QProxyStyle::pixelMetric(metric, option, widget);
   return isLength(metric) ? Lengths(widget).of(length) : length;
 }

@@ -36,7 +36,6 @@ inline const QColor kDisabledFace("#eceae0");
 inline const QColor kDisabledEdge("#a39b88");
 inline const QColor kFocus("#2f6f6b");
 inline const QColor kFocusFace("#dcebe4");
-inline const QColor kFocusField("#ffffff");
 inline const QColor kSelection("#35807c");
 
 // The faces of the buttons of the twelve zones, the tints of their monsters on bone.

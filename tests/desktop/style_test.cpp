@@ -159,12 +159,12 @@ TYPED_TEST(StyleOfFields, HaveAnEvenEdgeAndALightFace) {
   EXPECT_EQ(shown.at(60, 30), theme::kPlate);
 }
 
-TYPED_TEST(StyleOfFields, TurnWhiteWithTheFocus) {
+TYPED_TEST(StyleOfFields, KeepTheirFaceInFocus) {
   Shown<TypeParam> shown;
   shown.widget.setFocus();
   EXPECT_EQ(shown.below(theme::kFocus), 3);
-  EXPECT_EQ(shown.at(4, 20), theme::kFocusField);
-  EXPECT_EQ(shown.at(60, 30), theme::kFocusField);
+  EXPECT_EQ(shown.at(4, 20), theme::kPlate);
+  EXPECT_EQ(shown.at(60, 30), theme::kPlate);
 }
 
 TYPED_TEST(StyleOfFields, ArePaleWhenDisabled) {
@@ -190,6 +190,17 @@ TEST(Style, AListToChooseFromHasItsArrowInsideTheEdge) {
   };
   EXPECT_EQ(part(QStyle::SC_ComboBoxArrow), QRect(102, 2, 16, 36));
   EXPECT_LE(part(QStyle::SC_ComboBoxEditField).right(), 101);
+}
+
+TEST(Style, ARingStandsAroundTheRowOfAListThatHasTheFocus) {
+  Shown<QListWidget> shown;
+  shown.widget.addItem("");
+  shown.widget.setFocus();
+  shown.widget.setCurrentRow(0, QItemSelectionModel::NoUpdate);
+  const QRect row = shown.widget.visualItemRect(shown.widget.item(0)).translated(shown.widget.viewport()->pos());
+  EXPECT_EQ(shown.at(row.center().x(), row.top()), theme::kFocus);
+  EXPECT_EQ(shown.at(row.center().x(), row.bottom()), theme::kFocus);
+  EXPECT_EQ(shown.at(row.center().x(), row.center().y()), theme::kPlate);
 }
 
 TEST(Style, APanelKeepsItsEdgeFree) {
@@ -303,8 +314,7 @@ double contrast(const QColor& one, const QColor& other) {
 
 TEST(Contrast, TheFocusStandsOutFromWhatSurroundsIt) {
   EXPECT_NEAR(contrast(Qt::black, Qt::white), 21, 0.01);
-  for (const QColor& around :
-       {theme::kPaper, theme::kPanel, theme::kButton, theme::kPlate, theme::kFocusFace, theme::kFocusField}) {
+  for (const QColor& around : {theme::kPaper, theme::kPanel, theme::kButton, theme::kPlate, theme::kFocusFace}) {
     EXPECT_GE(contrast(theme::kFocus, around), 3) << around.name().toStdString();
   }
 }

@@ -147,6 +147,14 @@ class Looks(InBrowser):
         self.assertNotEqual(self.style("CTmhero.Czarn(7)", "borderTopColor"), ink)
         self.assertNotEqual(self.style("CTmhero.Czarn(7)", "backgroundColor"), nothing)
 
+    def test_a_field_keeps_its_face_in_focus(self):
+        self.page.click("Main", "gracz(0)")
+        for name in ("CTmhero.Imie", "CTmhero.LBronww"):
+            face = self.style(name, "backgroundColor")
+            self.page.script("document.getElementById(arguments[0]).focus({ focusVisible: true })", name)
+            self.assertEqual(self.style(name, "outlineStyle"), "solid", name)
+            self.assertEqual(self.style(name, "backgroundColor"), face, name)
+
     def test_the_chosen_class_alone_has_a_frame(self):
         self.page.click("Main", "gracz(0)")
         self.page.click("CTmhero", "Klasa(4)")
