@@ -132,7 +132,10 @@ QFrame* monster(FormWindow& window) {
   window.unit().fixed(left, 0, 52);
   alignCentre(left);
   scene.addWidget(&picture, 0, 0);
-  scene.addWidget(&left, 0, 0, Qt::AlignRight | Qt::AlignBottom);
+  auto* corner = bare<QVBoxLayout>(window, 0);
+  window.unit().margins(*corner, {0, 0, 8, 8});
+  corner->addWidget(&left);
+  scene.addLayout(corner, 0, 0, Qt::AlignRight | Qt::AlignBottom);
   left.raise();
   return frame;
 }

@@ -219,6 +219,16 @@ TEST(Looks, TheForgeStandsBesideItsHeadingAlone) {
   EXPECT_LT(placeOf(stage.at("CTmhero", "pics(0)")).bottom(), placeOf(stage.at("CTmhero", "Label7(1)")).top());
 }
 
+TEST(Looks, TheCountOfMonstersStandsClearOfTheFrameOfTheirPicture) {
+  Stage stage;
+  setFight(stage.world, richHero());
+  stage.open({"Fight"});
+  const QRect picture = placeOf(stage.at("Fight", "Potwór"));
+  const QRect count = placeOf(stage.at("Fight", "LIle"));
+  EXPECT_GE(picture.right() - count.right(), 6);
+  EXPECT_GE(picture.bottom() - count.bottom(), 6);
+}
+
 TEST(Looks, EveryPlayerHasAShieldAboveHisFile) {
   Stage stage;
   stage.start();
