@@ -41,6 +41,8 @@ constexpr int kArrowWidth = 16;
 // In pixels, what a line to write in leaves free before its words.
 constexpr int kLineMargin = 2;
 constexpr QSize kArrow(9, 5);
+// How far the arrow stands above the middle, to leave the corner below it to a letter.
+constexpr int kArrowLift = 5;
 
 // A panel with a title leaves room above for half of the title's plate.
 constexpr int kPlateAbove = 16;
@@ -79,6 +81,8 @@ bool has(const QStyleOption& option, QStyle::StateFlag flag) { return (option.st
 bool is(const QWidget* widget, const char* property) {
   return widget != nullptr && widget->property(property).toBool();
 }
+
+bool hasKey(const QWidget* widget) { return widget != nullptr && !widget->property(kAccessKey).toString().isEmpty(); }
 
 // The edge of a button, in units.
 QMargins buttonEdge(const QStyleOption& option, const QWidget* widget) {
@@ -284,15 +288,15 @@ QRect comboBoxPart(const QRect& place, QStyle::SubControl part, const QWidget* w
 }  // namespace
 
 QFont keyFont(const QWidget& widget) {
-  QFont font = widget.font();
+  QFont font = theme::typeface(theme::Type::text);
   font.setBold(false);
   font.setPixelSize(std::max(qRound(Unit::kSmallestText), Lengths(&widget).of(kKeySize)));
   return font;
 }
 
 void drawKey(QPainter& painter, const QRect& place, const QWidget* widget, const QPalette& palette) {
-  const QString key = widget == nullptr ? QString() : widget->property(kAccessKey).toString();
-  if (key.isEmpty()) return;
+  if (!hasKey(widget)) return;
+  const QString key = widget->property(kAccessKey).toString();
   const Lengths length(widget);
   painter.save();
   painter.setFont(keyFont(*widget));
@@ -399,10 +403,9 @@ void Style::drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, 
   drawField(option, painter, widget);
   QStyleOption arrow = option;
   arrow.rect = proxy()->subControlRect(CC_ComboBox, &option, SC_ComboBoxArrow, widget);
+  if (hasKey(widget)) arrow.rect.translate(0, -Lengths(widget).of(kArrowLift));
   proxy()->drawPrimitive(PE_IndicatorArrowDown, &arrow, &painter, widget);
-  QRect besideArrow = option.rect;
-  besideArrow.setRight(arrow.rect.left() + Lengths(widget).of(kKeyMargins).right());
-  drawKey(painter, besideArrow, widget, option.palette);
+  drawKey(painter, option.rect, widget, option.palette);
 }
 
 QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {

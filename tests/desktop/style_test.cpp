@@ -17,6 +17,7 @@
 #include <QStyleOptionGroupBox>
 #include <QTest>
 #include <cmath>
+#include <vector>
 
 #include "desktop/theme.h"
 
@@ -201,6 +202,45 @@ TEST(Style, ARingStandsAroundTheRowOfAListThatHasTheFocus) {
   EXPECT_EQ(shown.at(row.center().x(), row.top()), theme::kFocus);
   EXPECT_EQ(shown.at(row.center().x(), row.bottom()), theme::kFocus);
   EXPECT_EQ(shown.at(row.center().x(), row.center().y()), theme::kPlate);
+}
+
+// The rows of a widget on which points of a kind are drawn, from a column on.
+std::vector<int> rowsOf(QWidget& widget, bool (*isOfKind)(const QColor&), int from) {
+  const QImage shown = widget.grab().toImage();
+  std::vector<int> rows;
+  for (int y = 4; y < shown.height() - 4; ++y) {
+    int found = 0;
+    for (int x = from; x < shown.width() - 4; ++x) found += isOfKind(shown.pixelColor(x, y)) ? 1 : 0;
+    if (found > 0) rows.push_back(y);
+  }
+  return rows;
+}
+
+bool isOfArrow(const QColor& colour) { return colour.red() < 120 && colour.red() - colour.blue() < 30; }
+bool isOfLetter(const QColor& colour) { return colour.red() < 220 && colour.red() - colour.blue() > 45; }
+
+TEST(Style, TheLetterOfAListToChooseFromStandsBelowItsArrow) {
+  Shown<QComboBox> shown;
+  shown.widget.resize(120, 32);
+  const auto arrow = rowsOf(shown.widget, isOfArrow, 4);
+  ASSERT_FALSE(arrow.empty());
+  EXPECT_NEAR((arrow.front() + arrow.back()) / 2.0, 16, 1.5) << "without a letter";
+  EXPECT_TRUE(rowsOf(shown.widget, isOfLetter, 4).empty());
+  shown.widget.setProperty(desktop::kAccessKey, "W");
+  const auto raised = rowsOf(shown.widget, isOfArrow, 4);
+  const auto letter = rowsOf(shown.widget, isOfLetter, 4);
+  ASSERT_FALSE(raised.empty());
+  ASSERT_FALSE(letter.empty());
+  EXPECT_GE(letter.front() - raised.back(), 4);
+  EXPECT_EQ(rowsOf(shown.widget, isOfLetter, 102), letter) << "nothing beside the arrow";
+}
+
+TEST(Style, TheLetterThatReachesAButtonIsSetInTheFaceOfPlainWords) {
+  Shown<QPushButton> shown;
+  shown.widget.setFont(theme::typeface(theme::Type::heading));
+  const QFont letter = desktop::keyFont(shown.widget);
+  EXPECT_EQ(letter.families(), theme::typeface(theme::Type::text).families());
+  EXPECT_FALSE(letter.bold());
 }
 
 TEST(Style, APanelKeepsItsEdgeFree) {
