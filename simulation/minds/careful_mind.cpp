@@ -61,9 +61,18 @@ bool CarefulMind::buyBest(DepartmentScreen& screen, bool atCreation) {
     if (!atHand(offers[i])) continue;
     if (chosen < 0 || gains[i] > gains[chosen]) chosen = static_cast<int>(i);
   }
-  if (chosen < 0 || gains[chosen] < kUseless) return false;
-  if (!notes_.is(kGambler) && gains[chosen] < kGoodEnough * best) return false;
-  return buy(screen, offers[chosen]);
+  if (chosen < 0) return false;
+  const bool isWise = gains[chosen] >= kUseless && (notes_.is(kGambler) || gains[chosen] >= kGoodEnough * best);
+  return isWise ? buy(screen, offers[chosen]) : buyFromPlenty(screen, offers);
+}
+
+// Whoever has more points than he could want to save buys what may help one day.
+bool CarefulMind::buyFromPlenty(DepartmentScreen& screen, const std::vector<Offer>& offers) {
+  const auto found = std::find_if(offers.begin(), offers.end(), [&](const Offer& offer) {
+    const bool lasts = offer.ware == Ware::step || offer.ware == Ware::spell;
+    return lasts && notes_.points >= offer.price + kPatience && isOpen(screen, offer);
+  });
+  return found != offers.end() && buy(screen, *found);
 }
 
 void CarefulMind::spend(DepartmentScreen& screen, bool atCreation) {

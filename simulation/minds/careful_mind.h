@@ -20,6 +20,7 @@ class CarefulMind : public Mind {
  private:
   void spend(DepartmentScreen& screen, bool atCreation);
   bool buyBest(DepartmentScreen& screen, bool atCreation);
+  bool buyFromPlenty(DepartmentScreen& screen, const std::vector<Offer>& offers);
   [[nodiscard]] static bool isOpen(const DepartmentScreen& screen, const Offer& offer);
   void sellSpare(CreationScreen& screen);
   [[nodiscard]] double worthNow(int initiative) const;

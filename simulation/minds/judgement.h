@@ -30,12 +30,13 @@ inline constexpr int kOfferPlaces = kStatistics + kWeapons + kSpells + kGear + k
 // How much a player likes a risk.
 struct Temper {
   double courage = 1;     // the less a lost life counts
+  double care = 2.5;      // points that it costs to go home with nothing left of the endurance
   double temptation = 1;  // how good a gamble must look beside the best choice
   int mood = 1;           // one visit in so many finds him in the mood for one
 };
 // A sensible player hurries when others may be there before him, and takes his time alone.
 Temper sensible(int rivals);
-inline constexpr Temper kDaredevil = {3, 0.2, 2};
+inline constexpr Temper kDaredevil = {3, 2.5, 0.2, 2};
 
 class Judgement {
  public:
@@ -72,6 +73,7 @@ class Judgement {
   Foresight reckoning_;
   std::array<double, kOfferPlaces> taste_{};
   double courage_ = 1;
+  double care_ = 1;
   double temptation_ = 1;
 };
 

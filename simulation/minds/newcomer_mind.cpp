@@ -13,14 +13,13 @@ namespace {
 constexpr std::array kClimb = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, kThroneZone};
 constexpr int kTop = static_cast<int>(kClimb.size()) - 1;
 // What he develops, over and over in this order.
-constexpr std::array kSteps = {kEndurance, kArmour, kModifier, kEndurance, kArmour, kSpeed, kEndurance, kPower};
+constexpr std::array kSteps = {kEndurance, kArmour,    kModifier, kEndurance, kArmour,
+                               kSpeed,     kEndurance, kArmour,   kPower,     kRegeneration};
 // A fight that took less of what he had felt easy; one that took more hurt.
-constexpr double kEasy = 0.3;
-constexpr double kHurt = 0.7;
-// Easy fights in a row that take him one zone on: on his last life he wants to be sure, and surer
-// still before he faces the throne.
+constexpr double kEasy = 0.5;
+constexpr double kHurt = 0.8;
+// Easy fights in a row that take him one zone on once he has lost a life, or when the throne is next.
 constexpr int kSure = 2;
-constexpr int kSureOfTheThrone = 3;
 // A weapon that costs little more than his own does not sound stronger.
 constexpr int kNoticeable = 2;
 
@@ -64,7 +63,9 @@ void NewcomerMind::buySteps(DepartmentScreen& screen, int price) {
 
 void NewcomerMind::create(CreationScreen& screen) {
   beginHero(screen);
-  buy(screen, {Ware::step, kLives, kCreationLifePrice});
+  constexpr int kMostStepsOfLives = 3;
+  const int lives = 1 + below(kMostStepsOfLives);
+  for (int i = 0; i < lives; ++i) buy(screen, {Ware::step, kLives, kCreationLifePrice});
   buyWeapon(screen, screen.points() / 2);
   buySpells(screen);
   buySteps(screen, kCreationStepPrice);
@@ -98,8 +99,8 @@ void NewcomerMind::act(FightScreen& screen) {
 }
 
 int NewcomerMind::easyFightsNeeded() const {
-  if (zone_ + 1 >= kTop) return kSureOfTheThrone;
-  return notes_.lives <= 1 ? kSure : 1;
+  const bool throneIsNext = zone_ + 1 >= kTop;
+  return burnt_ || throneIsNext ? kSure : 1;
 }
 
 void NewcomerMind::hearOutcome(bool won) {
@@ -110,6 +111,7 @@ void NewcomerMind::hearOutcome(bool won) {
     easy_ = 0;
   }
   if (lost > kHurt) zone_ = std::max(0, zone_ - 1);
+  if (!won) burnt_ = true;
 }
 
 }  // namespace brolgan::simulation

@@ -30,6 +30,7 @@ class NewcomerMind : public Mind {
   int begun_ = 0;  // the endurance that the fight began with
   int left_ = 0;
   int nextStep_ = 0;
+  bool burnt_ = false;  // has lost a life
 };
 
 }  // namespace brolgan::simulation

@@ -208,10 +208,11 @@ const char* const kIntroduction =
     "Dla graczy, którzy lubią wiedzieć, na co się porywają. Liczby pochodzą z całych partii rozegranych przez\n"
     "wymyślonych graczy, którzy widzą tylko to, co widać na ekranach, i klikają tylko to, co da się kliknąć.\n"
     "**Rozsądny** waży spodziewane obrażenia i ryzyko ołówkiem na kartce. **Nowicjusz** kupuje to, co\n"
-    "brzmi groźnie, idzie strefę dalej, gdy było łatwo, a strefę bliżej, gdy bolało; na ostatnim wcieleniu rusza\n"
-    "dalej dopiero po dwóch łatwych walkach z rzędu, a do „Tronu Królów” po trzech. **Chciwy** rozgrywa każdą walkę\n"
-    "w głowie, nim ją wybierze. **Hazardzista** ciągnie do „Pandorii” i do „Tronu Królów”, nim przyjdzie pora.\n"
-    "Rozsądny waży się na tym więcej, im więcej ma rywali; samotny odwleka „Tron” najdłużej, a partia, która po\n"
+    "brzmi groźnie, i mniej lub więcej wcieleń, idzie strefę dalej, gdy było łatwo, a strefę bliżej, gdy bolało;\n"
+    "kto stracił wcielenie albo stoi przed „Tronem Królów”, rusza dalej dopiero po dwóch łatwych walkach z rzędu.\n"
+    "**Chciwy** rozgrywa każdą walkę w głowie, nim ją wybierze. **Hazardzista** ciągnie do „Pandorii” i do „Tronu\n"
+    "Królów”, nim przyjdzie pora. Rozsądny waży się na tym więcej, im więcej ma rywali: w czwórkę rany liczy mało,\n"
+    "a śmierć, po której zostaje zapas, niewiele więcej. Samotny odwleka „Tron” najdłużej, a partia, która po\n"
     "60 turach trwa, liczy się jako nierozstrzygnięta.\n\n"
     "W nawiasach stoją przedziały, w których z ufnością 95% leży prawdziwa wartość.\n\n";
 
@@ -224,6 +225,10 @@ const char* const kRules =
     "- Ryzykant dostaje potrójne punkty i nawet z tym, co przepada, rośnie najszybciej. Nagrody potworów leżą na ogół\n"
     "  tuż nad połówką, bo wtedy zaokrąglanie najbardziej pomaga pozostałym.\n"
     "  Hamują go działy sklepu: co druga wizyta pozwala rozwijać cechy, co trzecia kupić broń.\n"
+    "- Berserker uderza w rundzie dwa razy, więc każda broń biała jest w jego ręku dwiema. Słabsza broń biała zabiera\n"
+    "  więcej Wojownikowi i Złotej rączce niż jemu.\n"
+    "- Czarownik odzyskuje w rundzie od 0 do 3 punktów magii, zależnie od regeneracji, którą musi najpierw kupić;\n"
+    "  z początku gra więc jak bohater bez klasy.\n"
     "- Nagrodę liczy się tylko z kości ataku i pancerza; stały dodatek i wytrzymałość potwora nic nie dają. Grupa\n"
     "  płaci za liczebność, więc w każdej strefie trafia się łup większy od innych.\n"
     "- Nóż i Łuk ma od początku każdy, więc nie trzeba ich kupować; można je za to sprzedać przy tworzeniu bohatera.\n"
@@ -233,12 +238,17 @@ const char* const kRules =
 
 const char* const kSearch =
     "\n## Skąd te liczby\n\n"
-    "Z prób: każdy wiersz [szukanie.csv](balans/szukanie.csv) to jeden zestaw liczb, rozegrany w 24–60 partiach\n"
-    "czterech rozsądnych, z innymi ziarnami niż partie tego pliku; potem „Król Zagłady” dostał więcej wytrzymałości,\n"
-    "aby nikt nie szedł na „Tron Królów” za młodo. W tych małych próbach wyglądało na to, że pomaga, gdy potwory żyją\n"
-    "dłużej i są szybsze, strefa trzecia pilnuje się lepiej, drogie bronie mocniej różnią się od tanich, a „Król\n"
-    "Zagłady” rzuca wieloma małymi kośćmi. Silniejsze grupy zbliżały nagrodę do niebezpieczeństwa, ale zatrzymywały\n"
-    "bohaterów w strefie drugiej; „Król” o większej wytrzymałości odbierał samotnym koniec partii przed 60. turą.\n";
+    "Z prób: każdy wiersz [szukanie.csv](balans/szukanie.csv) to jeden zestaw liczb, rozegrany przez czterech\n"
+    "rozsądnych, z innymi ziarnami niż partie tego pliku. Do wiersza 99 kręcono całymi grupami liczb, a gracze byli\n"
+    "ostrożniejsi; od wiersza 100 potwory przesuwano pojedynczo (`search settle`): w każdej strefie, kto płaci "
+    "więcej,\n"
+    "robił się groźniejszy, a strefa zbyt oblegana albo zbyt bezpieczna trudniejsza. Na końcu zmieniano po jednej,\n"
+    "dwie liczby i zostawiano to, co poprawiało wynik na dwóch różnych próbach.\n"
+    "Pomogły: jedna szeroka kość zamiast stałego dodatku (śmierć zdarza się, choć zwykła walka kosztuje mało), grupy\n"
+    "z większym dodatkiem niż samotnicy obok, nagrody tuż nad połówką punktu, „Król” o mniejszym pancerzu i większej\n"
+    "wytrzymałości. Nie pomogły: wyższe ceny najlepszych broni i niższy pancerz końcówki, jeśli miały utemperować\n"
+    "Berserkera i Ryzykanta. Śmielszy rozsądny nie gra gorzej: przy wspólnym stole z dawnym, ostrożniejszym, wygrał\n"
+    "483 partie, a tamten 516; ginie za to dwa razy częściej.\n";
 
 // What a dear weapon adds to the chance to win.
 std::string dearTable(const Knowledge& known, const Study& study) {

@@ -102,6 +102,7 @@ Score scoreOf(const DataFiles& data, const Sample& sample) {
   const double alone = percent(endedShare(sample.alone));
   const double gambles = percent(all.gambles.value());
   const double gamblesWon = percent(all.gamblesWon.value());
+  const double pay = all.wisePay.value() > 0 ? all.gamblePay.value() / all.wisePay.value() : 0;
   const double early = 2000.0 * tallies.earlyThrones / std::max(1, tallies.allTurns);
   const double first =
       percent(tallies.turns[0].fights > 0 ? 1.0 * tallies.turns[0].deaths / tallies.turns[0].fights : 0);
@@ -116,6 +117,7 @@ Score scoreOf(const DataFiles& data, const Sample& sample) {
                  {"busiest_zone", percent(all.busiest), above(percent(all.busiest), 18, 5)},
                  rankTerm(known, all),
                  {"gambles", gambles, under(gambles, 3, 3)},
+                 {"gambles_pay", pay, under(pay, 1, 0.2)},
                  {"gambles_won", gamblesWon, outside(gamblesWon, 70, 85, 10)},
                  classTerm(sample.games),
                  purchaseTerm(tallies),

@@ -3,6 +3,7 @@
 //
 //   search run      throws, plays, ranks; one line a generation into FOLDER/search.csv
 //   search try      plays one shape, told as NAME=VALUE, and prints its score
+//   search settle   moves the monsters one by one; writes the best data files into FOLDER
 //   search write    writes the data files of a shape into FOLDER
 #include <algorithm>
 #include <cstdlib>
@@ -10,12 +11,15 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <limits>
+#include <sstream>
 #include <stdexcept>
 
 #include "simulation/options.h"
 #include "simulation/report/tallies.h"
 #include "simulation/search/cma_es.h"
 #include "simulation/search/score.h"
+#include "simulation/search/settle.h"
 #include "simulation/search/shape.h"
 
 using namespace brolgan::simulation;
@@ -25,8 +29,9 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kUsage =
-    "search run|try|write [NAME=VALUE...] [--games N] [--generations G] [--seed S] [--threads T]\n"
-    "       [--data FOLDER] [--results FOLDER]\n";
+    "search run|try|settle|write [NAME=VALUE...] [--games N] [--generations G] [--seed S] [--threads T]\n"
+    "       [--data FOLDER] [--results FOLDER] [--dials NAME,NAME...]\n"
+    "A dial is meant by its name or the beginning of it; those not meant stay where they are told.\n";
 // The games that confirm a mean are none of those that chose it.
 constexpr std::uint64_t kHeldOut = 0x100000;
 
@@ -37,7 +42,23 @@ struct Setup {
   int generations = 1000;
   int threads = 1;
   std::uint64_t seed = 1;
+  std::vector<std::size_t> dials;  // that the search may turn
+  Shape start{};
 };
+
+// The dials of a list of names or beginnings; all for an empty one.
+std::vector<std::size_t> dialsOf(const std::string& list) {
+  std::vector<std::size_t> found;
+  for (std::size_t i = 0; i < kDials; ++i) {
+    std::istringstream names(list);
+    bool meant = list.empty();
+    for (std::string name; std::getline(names, name, ',');)
+      meant = meant || std::string(kDialTable[i].name).starts_with(name);
+    if (meant) found.push_back(i);
+  }
+  if (found.empty()) throw std::invalid_argument("no dial begins like that: " + list);
+  return found;
+}
 
 Shape shapeFrom(const std::vector<std::string>& words) {
   Shape shape{};
@@ -49,18 +70,18 @@ Shape shapeFrom(const std::vector<std::string>& words) {
   return shape;
 }
 
-Shape shapeAt(const std::vector<double>& point) {
-  Shape shape{};
-  for (std::size_t i = 0; i < kDials; ++i) {
-    const Dial& dial = kDialTable[i];
-    shape[i] = std::clamp(point[i] * dial.step, dial.least, dial.most);
+Shape shapeAt(const Setup& setup, const std::vector<double>& point) {
+  Shape shape = setup.start;
+  for (std::size_t i = 0; i < setup.dials.size(); ++i) {
+    const Dial& dial = kDialTable[setup.dials[i]];
+    shape[setup.dials[i]] = std::clamp(point[i] * dial.step, dial.least, dial.most);
   }
   return shape;
 }
 
-std::vector<double> pointOf(const Shape& shape) {
+std::vector<double> pointOf(const Setup& setup) {
   std::vector<double> point;
-  for (std::size_t i = 0; i < kDials; ++i) point.push_back(shape[i] / kDialTable[i].step);
+  for (const std::size_t i : setup.dials) point.push_back(setup.start[i] / kDialTable[i].step);
   return point;
 }
 
@@ -106,8 +127,8 @@ void printCareers(const Knowledge& known, const Sample& sample) {
   }
 }
 
-void tryOut(const Setup& setup, const Shape& shape) {
-  const DataFiles data = shaped(setup.data, shape);
+void tryOut(const Setup& setup) {
+  const DataFiles data = shaped(setup.data, setup.start);
   const Sample sample = playSample(data, setup.games, setup.threads, setup.seed);
   print(scoreOf(data, sample));
   const Measures all = measure(sample.games);
@@ -134,16 +155,21 @@ void writeFiles(const DataFiles& data, const fs::path& folder) {
   store(folder / "monsters.cfg", data.monsters);
 }
 
-CmaEs begin(const fs::path& state, const Shape& start, std::uint64_t seed) {
+CmaEs begin(const fs::path& state, const Setup& setup) {
   std::ifstream in(state);
-  if (in) return CmaEs(in);
+  if (in) {
+    CmaEs search(in);
+    if (search.mean().size() == setup.dials.size()) return search;
+    throw std::runtime_error(state.string() + " is of a search with other dials");
+  }
   constexpr double kFirstStep = 0.4;
-  return CmaEs(pointOf(start), kFirstStep, seed);
+  return CmaEs(pointOf(setup), kFirstStep, setup.seed);
 }
 
 // The log: what the generation's points were worth, what its mean is worth on games held out, and the
 // shape of that mean.
-void note(const fs::path& log, const CmaEs& search, const std::vector<double>& values, double confirmed) {
+void note(const fs::path& log, const CmaEs& search, const Shape& mean, const std::vector<double>& values,
+          double confirmed) {
   const bool fresh = !fs::exists(log);
   std::ofstream out(log, std::ios::app);
   if (fresh) {
@@ -153,28 +179,45 @@ void note(const fs::path& log, const CmaEs& search, const std::vector<double>& v
   }
   const auto [best, worst] = std::minmax_element(values.begin(), values.end());
   out << search.generation() << ',' << *best << ',' << *worst << ',' << confirmed << ',' << search.step();
-  for (const double value : shapeAt(search.mean())) out << ',' << value;
+  for (const double value : mean) out << ',' << value;
   out << '\n';
 }
 
-void run(const Setup& setup, const Shape& start) {
+void run(const Setup& setup) {
   fs::create_directories(setup.results);
   const fs::path state = setup.results / "search.state";
-  CmaEs search = begin(state, start, setup.seed);
+  CmaEs search = begin(state, setup);
   while (search.generation() < setup.generations) {
     const auto points = search.ask();
     // All points of a generation play the same games, the next generation plays others.
     const std::uint64_t seed = setup.seed + static_cast<std::uint64_t>(search.generation()) + 1;
     std::vector<double> values;
     for (const auto& point : points) {
-      values.push_back(play(setup, shapeAt(point), seed).sum());
+      values.push_back(play(setup, shapeAt(setup, point), seed).sum());
       std::cerr << "generation " << search.generation() + 1 << ": " << values.size() << "/" << points.size()
                 << " score " << values.back() << std::endl;
     }
     search.tell(points, values);
-    note(setup.results / "search.csv", search, values, play(setup, shapeAt(search.mean()), seed + kHeldOut).sum());
+    const Shape mean = shapeAt(setup, search.mean());
+    note(setup.results / "search.csv", search, mean, values, play(setup, mean, seed + kHeldOut).sum());
     std::ofstream out(state);
     search.save(out);
+  }
+}
+
+// One line a round: what its numbers are worth on games that no other round plays.
+void settle(const Setup& setup) {
+  Settler settler(shaped(setup.data, setup.start));
+  double best = std::numeric_limits<double>::infinity();
+  for (int round = 0; round < setup.generations; ++round) {
+    const DataFiles data = settler.data();
+    const Sample sample =
+        playSample(data, setup.games, setup.threads, setup.seed + static_cast<std::uint64_t>(round) + 1);
+    const Score score = scoreOf(data, sample);
+    std::cout << "round " << round + 1 << ": score " << score.sum() << std::endl;
+    if (score.sum() < best) writeFiles(data, setup.results);
+    best = std::min(best, score.sum());
+    settler.hear(measure(sample.games));
   }
 }
 
@@ -187,13 +230,16 @@ void act(const Options& options) {
   setup.generations = options.number("--generations", setup.generations);
   setup.threads = options.number("--threads", 1);
   setup.seed = static_cast<std::uint64_t>(options.number("--seed", 1));
-  const Shape shape = shapeFrom(options.words);
+  setup.dials = dialsOf(options.text("--dials", ""));
+  setup.start = shapeFrom(options.words);
   if (options.words[0] == "run") {
-    run(setup, shape);
+    run(setup);
   } else if (options.words[0] == "try") {
-    tryOut(setup, shape);
+    tryOut(setup);
+  } else if (options.words[0] == "settle") {
+    settle(setup);
   } else if (options.words[0] == "write") {
-    writeFiles(shaped(setup.data, shape), setup.results);
+    writeFiles(shaped(setup.data, setup.start), setup.results);
   } else {
     throw std::invalid_argument(kUsage);
   }
@@ -203,7 +249,8 @@ void act(const Options& options) {
 
 int main(int count, char** arguments) {
   try {
-    act(Options(count, arguments, {"--games", "--generations", "--seed", "--threads", "--data", "--results"}));
+    act(Options(count, arguments,
+                {"--games", "--generations", "--seed", "--threads", "--data", "--results", "--dials"}));
   } catch (const std::exception& error) {
     std::cerr << error.what() << "\n";
     return EXIT_FAILURE;

@@ -3,12 +3,12 @@
 #include <algorithm>
 #include <cmath>
 #include <span>
-#include <sstream>
 #include <stdexcept>
 
 #include "fight/choices.h"
 #include "flow/text/code_page.h"
 #include "simulation/knowledge/knowledge.h"
+#include "simulation/search/numbers.h"
 
 namespace brolgan::simulation {
 
@@ -26,17 +26,20 @@ constexpr std::size_t kCourtLife = 19;
 constexpr std::size_t kCourtAttack = 20;
 constexpr std::size_t kKingLife = 21;
 constexpr std::size_t kKingPlace = 22;
-constexpr std::size_t kDearDamage = 23;
-constexpr std::size_t kSpeedDial = 24;
+constexpr std::size_t kSpeedDial = 23;
+constexpr std::size_t kDamageDial = 24;
+constexpr std::size_t kPriceDial = 42;
 
-constexpr int kLinesAMonster = 10;
 constexpr int kLinesAWeapon = 9;
 constexpr int kUntouched = 3;
 constexpr int kCourt = 41;  // the first of the king's court, counted from 0
 constexpr int kEnd = kMonsters - 1;
 constexpr int kLargestGroup = 12;
 constexpr int kMostFaces = 61;
-constexpr int kCheap = 4;  // the price up to which a weapon is not dear
+
+// The weapons for sale, in their order, and the dearest of them.
+constexpr std::array<std::size_t, 18> kSold = {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13, 14, 15, 16, 17, 18, 19};
+constexpr std::array<std::size_t, 4> kDearest = {4, 9, 18, 19};
 
 constexpr std::array<double, 5> kFiveBands = {3, 12, 22, 31, 40};
 constexpr std::array<double, 3> kThreeBands = {12, 26, 40};
@@ -52,31 +55,7 @@ double between(std::span<const double> bands, const double* values, double place
   return values[bands.size() - 1];
 }
 
-std::vector<std::string> linesOf(const std::string& text) {
-  std::vector<std::string> lines;
-  std::istringstream in(text);
-  for (std::string line; std::getline(in, line);) {
-    if (line.ends_with('\r')) line.pop_back();
-    lines.push_back(line);
-  }
-  return lines;
-}
-
-std::string textOf(const std::vector<std::string>& lines) {
-  std::string text;
-  for (const std::string& line : lines) text += line + "\r\n";
-  return text;
-}
-
 int whole(double value) { return static_cast<int>(std::lround(value)); }
-
-// One monster's numbers, in the order of its lines.
-struct Numbers {
-  int count, speed, low, high, dice, plus, life, armour;
-
-  [[nodiscard]] double mean() const { return (low + high) / 2.0 * dice; }
-  [[nodiscard]] double reward() const { return (mean() + armour) / 10 * ((count - 1) * 0.33 + 1) + 1; }
-};
 
 // Dice with an odd number of faces, one if that will do, whose mean is that.
 void throwMean(Numbers& monster, int mean) {
@@ -129,20 +108,14 @@ Numbers turned(Numbers monster, int place, bool king, const Shape& shape) {
   monster.armour = std::max(0, whole(monster.armour + between(kThreeBands, &shape[kArmourDial], place)));
   const double more = between(kFiveBands, &shape[kAttack], place) + (group ? shape[kGroupAttack] : 0);
   const double total = std::max(1.0, monster.mean() + monster.plus + more);
-  giveAttack(monster, total, monster.mean() + between(kThreeBands, &shape[kDice], place));
+  const double dice = monster.mean() + between(kThreeBands, &shape[kDice], place);
+  const bool keepsDice = whole(dice) == whole(monster.mean()) && total >= monster.mean();
+  if (keepsDice) {
+    monster.plus = whole(total - monster.mean());
+  } else {
+    giveAttack(monster, total, dice);
+  }
   return monster;
-}
-
-Numbers numbersOf(const std::vector<std::string>& lines, std::size_t first) {
-  const auto at = [&](std::size_t i) { return std::stoi(lines[first + i]); };
-  return {at(0), at(3), at(4), at(5), at(6), at(7), at(8), at(9)};
-}
-
-void write(std::vector<std::string>& lines, std::size_t first, const Numbers& monster) {
-  lines[first] = std::to_string(monster.count);
-  const std::array values = {monster.speed, monster.low,  monster.high,  monster.dice,
-                             monster.plus,  monster.life, monster.armour};
-  for (std::size_t i = 0; i < values.size(); ++i) lines[first + 3 + i] = std::to_string(values[i]);
 }
 
 std::string shapedMonsters(const std::string& text, const Shape& shape) {
@@ -150,27 +123,31 @@ std::string shapedMonsters(const std::string& text, const Shape& shape) {
   const std::string name = toCodePage(kLastMonster);
   int king = kEnd;
   for (int place = kUntouched; place < kMonsters; ++place) {
-    const auto first = static_cast<std::size_t>(1 + place * kLinesAMonster);
+    const std::size_t first = firstLineOf(place);
     const bool last = lines[first + 1] == name;
     if (last) king = place;
     write(lines, first, turned(numbersOf(lines, first), place, last, shape));
   }
   // The king changes places with one of his court.
   const int place = std::clamp(king - whole(shape[kKingPlace]), kCourt, kEnd);
-  const auto lineOf = [&lines](int monster) { return lines.begin() + 1 + monster * kLinesAMonster; };
+  const auto lineOf = [&lines](int monster) {
+    return lines.begin() + static_cast<std::ptrdiff_t>(firstLineOf(monster));
+  };
   if (place != king) std::swap_ranges(lineOf(king), lineOf(king) + kLinesAMonster, lineOf(place));
   return textOf(lines);
 }
 
+// Where a weapon's lines begin.
+std::size_t firstLine(std::size_t weapon) { return 1 + weapon * kLinesAWeapon + (weapon >= kMelees ? 1 : 0); }
+
+void raise(std::string& number, double by, int least) {
+  number = std::to_string(std::max(least, whole(std::stoi(number) + by)));
+}
+
 std::string shapedWeapons(const std::string& text, const Shape& shape) {
   auto lines = linesOf(text);
-  for (std::size_t weapon = 0; weapon < kWeapons; ++weapon) {
-    const std::size_t first = 1 + weapon * kLinesAWeapon + (weapon >= kMelees ? 1 : 0);
-    const int price = std::stoi(lines[first + 8]);
-    if (price <= kCheap) continue;
-    std::string& plus = lines[first + 5];
-    plus = std::to_string(std::max(0, whole(std::stoi(plus) + shape[kDearDamage] * (price - kCheap) / 6)));
-  }
+  for (std::size_t i = 0; i < kSold.size(); ++i) raise(lines[firstLine(kSold[i]) + 5], shape[kDamageDial + i], 0);
+  for (std::size_t i = 0; i < kDearest.size(); ++i) raise(lines[firstLine(kDearest[i]) + 8], shape[kPriceDial + i], 1);
   return textOf(lines);
 }
 
@@ -184,8 +161,15 @@ const std::array<Dial, kDials> kDialTable = {{
     {"dice_41", 1.0, -3, 14},        {"armour_13", 0.7, -4, 3},       {"armour_27", 0.7, -5, 4},
     {"armour_41", 0.7, -6, 5},       {"group_size", 0.12, -0.7, 0.5}, {"group_attack", 0.5, -3, 6},
     {"group_life", 0.15, -0.5, 1.0}, {"court_life", 0.12, -0.8, 0.4}, {"court_attack", 1.0, -12, 4},
-    {"king_life", 0.12, -0.5, 0.6},  {"king_place", 0.4, -2, 2},      {"dear_damage", 1.0, -3, 8},
-    {"speed", 0.15, -0.4, 0.7},
+    {"king_life", 0.12, -0.5, 0.6},  {"king_place", 0.4, -2, 2},      {"speed", 0.15, -0.4, 0.7},
+    {"damage_2", 0.7, -2, 3},        {"damage_3", 0.7, -3, 4},        {"damage_4", 0.7, -3, 6},
+    {"damage_5", 1.0, -5, 8},        {"damage_6", 0.7, -2, 3},        {"damage_7", 0.7, -3, 3},
+    {"damage_8", 0.7, -3, 4},        {"damage_9", 1.0, -5, 5},        {"damage_10", 1.2, -9, 8},
+    {"damage_12", 0.7, -3, 3},       {"damage_13", 0.7, -3, 3},       {"damage_14", 0.7, -4, 5},
+    {"damage_15", 1.2, -8, 8},       {"damage_16", 0.7, -3, 4},       {"damage_17", 0.7, -2, 5},
+    {"damage_18", 1.0, -5, 8},       {"damage_19", 1.2, -4, 10},      {"damage_20", 1.2, -6, 12},
+    {"price_5", 0.7, -2, 3},         {"price_10", 0.7, -3, 4},        {"price_19", 0.7, -3, 4},
+    {"price_20", 0.7, -3, 4},
 }};
 
 DataFiles shaped(const DataFiles& data, const Shape& shape) {

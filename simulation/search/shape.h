@@ -1,6 +1,6 @@
 // The numbers of the data files as a few groups that a search can turn: by bands of the monster
 // list the endurance, the attack, its dice, the armour, the speed; the sizes of groups and what they can; the
-// king's court; the prices.
+// king's court; the damage of each weapon for sale, and the prices of the dearest.
 #pragma once
 
 #include <array>
@@ -19,7 +19,7 @@ struct Dial {
   double most;
 };
 
-inline constexpr int kDials = 25;
+inline constexpr int kDials = 46;
 extern const std::array<Dial, kDials> kDialTable;
 
 using Shape = std::array<double, kDials>;

@@ -92,6 +92,24 @@ TEST(Aims, FightsAreNoTamerThanTheyWereMade) {
   EXPECT_LT(all.oneRound.value(), 0.45);
   EXPECT_LT(all.costless.value(), 0.5);
   EXPECT_GT(all.gambles.value(), 0.03);
+  EXPECT_LT(all.gamblesWon.value(), 0.88);
+  EXPECT_GT(all.gamblesWon.value(), 0.68);
+}
+
+TEST(Aims, EveryoneFindsAnEndAndNobodyIsBoundToOneZone) {
+  const auto ended = [](const std::vector<GameRecord>& games) { return winningTurns(games).size(); };
+  EXPECT_GE(ended(study().newcomers), 4U);
+  EXPECT_GE(ended(study().smaller[0]), 18U);
+  EXPECT_LT(measure(study().games).busiest, 0.21);
+}
+
+TEST(Aims, RewardFollowsDangerAndNoMonsterIsHarmless) {
+  const Measures all = measure(study().games);
+  const Knowledge known(loadData(BROLGAN_ASSETS));
+  int follows = 0;
+  for (int zone = 0; zone < kPandoria; ++zone) follows += rewardFollowsDanger(known, all, zone) > 0.3 ? 1 : 0;
+  EXPECT_GE(follows, 8);
+  EXPECT_LE(harmlessMonsters(known, all).size(), 1U);
 }
 
 TEST(Aims, FeebleWeaponsWouldBeNoticedInFirstFights) {

@@ -58,5 +58,20 @@ TEST(Game, OfASinglePlayerEndsWithHisLastLifeOrTheLastMonster) {
   }
 }
 
+// A sensible hero who could buy something lasting for twice what a fight brings has not left it unbought.
+TEST(Game, OfASensiblePlayerLeavesNoPlentyUnspent) {
+  constexpr int kPlenty = 45;
+  const DataFiles data = loadData(BROLGAN_ASSETS);
+  const Knowledge known(data);
+  for (int i = 0; i < 20; ++i) {
+    const GameRecord game = playGame(data, known, randomTable(seedOf(12, i), 1, {MindKind::sensible}));
+    const HeroNotes& hero = game.seats[0].hero;
+    if (hero.points < kPlenty) continue;
+    for (int step = 0; step < kLives; ++step) {
+      EXPECT_EQ(hero.steps[static_cast<std::size_t>(step)], topStep(step)) << i << ": " << hero.points;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace brolgan::simulation

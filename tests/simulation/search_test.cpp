@@ -7,6 +7,7 @@
 
 #include "simulation/knowledge/knowledge.h"
 #include "simulation/search/cma_es.h"
+#include "simulation/search/settle.h"
 #include "simulation/search/shape.h"
 
 namespace brolgan::simulation {
@@ -73,6 +74,66 @@ TEST(Search, ThrowsOnlyDiceWithAnOddNumberOfFaces) {
   for (const Monster& monster : known.monsters) {
     EXPECT_EQ(monster.attack.high % 2, 1) << monster.name;
     EXPECT_GE(monster.attack.plus, 0) << monster.name;
+  }
+}
+
+TEST(Search, LeavesTheDiceWhenOnlyTheAttackIsTurned) {
+  const Knowledge before(loadData(BROLGAN_ASSETS));
+  const Knowledge after(turnedBy("attack_23", 2));
+  EXPECT_EQ(after.monsters[22].attack.high, before.monsters[22].attack.high);
+  EXPECT_EQ(after.monsters[22].attack.plus, before.monsters[22].attack.plus + 2);
+}
+
+TEST(Search, TurnsOneWeaponAndItsPrice) {
+  const Knowledge before(loadData(BROLGAN_ASSETS));
+  const Knowledge stronger(turnedBy("damage_20", 3));
+  const Knowledge dearer(turnedBy("price_20", 2));
+  EXPECT_EQ(stronger.weapons[19].damage.mean, before.weapons[19].damage.mean + 3);
+  EXPECT_EQ(dearer.weapons[19].price, before.weapons[19].price + 2);
+  for (std::size_t i = 0; i < 19; ++i) {
+    EXPECT_EQ(stronger.weapons[i].damage.mean, before.weapons[i].damage.mean);
+    EXPECT_EQ(dearer.weapons[i].price, before.weapons[i].price);
+  }
+}
+
+// What became of fights: each monster takes as much endurance, but one.
+Measures harmOf(double all, std::size_t odd, double harm) {
+  Measures measures;
+  for (std::size_t i = 0; i < measures.monsters.size(); ++i) {
+    for (int fight = 0; fight < 20; ++fight) measures.monsters[i].lost.add(i == odd ? harm : all);
+  }
+  return measures;
+}
+
+TEST(Settler, ChangesNothingBeforeItHasHeardOfAFight) {
+  const DataFiles data = loadData(BROLGAN_ASSETS);
+  EXPECT_EQ(Settler(data).data().monsters, data.monsters);
+  EXPECT_EQ(Settler(data).data().weapons, data.weapons);
+}
+
+TEST(Settler, HardensWhoPaysMoreAndHarmsLess) {
+  constexpr std::size_t kTrolls = 24;
+  const DataFiles data = loadData(BROLGAN_ASSETS);
+  Settler settler(data);
+  for (int i = 0; i < 30; ++i) settler.hear(harmOf(5, kTrolls, 0.5));
+  const Knowledge before(data);
+  const Knowledge after(settler.data());
+  ASSERT_GT(pointsFor(kWarrior, before.monsters[kTrolls]), pointsFor(kWarrior, before.monsters[kTrolls + 1]) + 0.5);
+  EXPECT_GT(after.monsters[kTrolls].attack.plus, before.monsters[kTrolls].attack.plus);
+  EXPECT_LE(after.monsters[kTrolls + 1].attack.plus, before.monsters[kTrolls + 1].attack.plus);
+  EXPECT_LT(after.monsters[kTrolls + 1].life, before.monsters[kTrolls + 1].life);
+}
+
+TEST(Settler, LeavesTheFirstThreeAndTheCourtAlone) {
+  const DataFiles data = loadData(BROLGAN_ASSETS);
+  Settler settler(data);
+  for (int i = 0; i < 5; ++i) settler.hear(harmOf(5, 43, 0.5));
+  const Knowledge before(data);
+  const Knowledge after(settler.data());
+  for (const std::size_t i : {0, 1, 2, 41, 42, 43, 44}) {
+    EXPECT_EQ(after.monsters[i].attack.plus, before.monsters[i].attack.plus);
+    EXPECT_EQ(after.monsters[i].life, before.monsters[i].life);
+    EXPECT_EQ(after.monsters[i].speed, before.monsters[i].speed);
   }
 }
 
