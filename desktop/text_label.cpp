@@ -65,7 +65,9 @@ bool TextLabel::isPlain() const {
   return !hasFigures(text()) || theme::figuresWithin(font()).families() == font().families();
 }
 
-TextLabel::Set TextLabel::set(const QFont& font, QTextOption::WrapMode wrap) const {
+TextLabel::Set TextLabel::set(const QFont& given, QTextOption::WrapMode wrap) const {
+  QFont font = given;
+  font.setWordSpacing(wordGap_ * given.pointSizeF() * logicalDpiY() / kPointsAnInch);
   Set set{font, std::make_shared<QTextLayout>(text().trimmed(), font, this)};
   QTextOption option(Qt::AlignLeft);
   option.setWrapMode(wrap);

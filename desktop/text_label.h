@@ -15,6 +15,8 @@ class TextLabel : public QLabel {
 
   // From now on the words keep to the room that the layout gives them, in lines when wordWrap is on.
   void keepToRoom();
+  // Sets the words of one that keeps to its room further apart, by that share of the letters' size.
+  void spreadWords(qreal gap) { wordGap_ = gap; }
 
   // The words as they are drawn, laid out from the upper left corner, and the font that they take.
   struct Set {
@@ -33,10 +35,11 @@ class TextLabel : public QLabel {
 
  private:
   [[nodiscard]] bool isPlain() const;
-  [[nodiscard]] Set set(const QFont& font, QTextOption::WrapMode wrap) const;
+  [[nodiscard]] Set set(const QFont& given, QTextOption::WrapMode wrap) const;
   [[nodiscard]] bool fits(const Set& set) const;
 
   bool keepsToRoom_ = false;
+  qreal wordGap_ = 0;
 };
 
 }  // namespace brolgan::desktop

@@ -13,6 +13,8 @@ namespace {
 
 constexpr int kHead = 64;
 constexpr int kFigures = 4;
+// Two blows must not read as one number.
+constexpr qreal kBetweenBlows = 0.25;
 
 // Heading, and name beside value in four rows.
 QFrame* figures(FormWindow& window, int firstLegend, const char* values) {
@@ -44,7 +46,7 @@ const Report kDealt = {"FZad", "Picture2", "Label4", "IleZad", "OpisZad", "Close
 const Report kTaken = {"FDamage", "Picture1", "Label3", "IleDMG", "OpisDMG", "CloseDMG", theme::kTaken};
 
 // Words that keep to their place, however many there are.
-QLabel& words(FormWindow& window, const char* name, Type type, Qt::Alignment alignment) {
+TextLabel& words(FormWindow& window, const char* name, Type type, Qt::Alignment alignment) {
   TextLabel& found = label(window, name, type);
   found.setWordWrap(true);
   found.keepToRoom();
@@ -69,7 +71,9 @@ void layOutReport(FormWindow& window, const Report& report) {
   window.unit().fixed(close, 96, 56);
   grid.addWidget(&heading, 0, 1);
   grid.addWidget(&picture, 1, 0, Qt::AlignCenter);
-  grid.addWidget(&words(window, report.blows, Type::blow, Qt::AlignVCenter), 1, 1);
+  TextLabel& blows = words(window, report.blows, Type::blow, Qt::AlignVCenter);
+  blows.spreadWords(kBetweenBlows);
+  grid.addWidget(&blows, 1, 1);
   grid.addWidget(&close, 2, 0);
   grid.addWidget(&words(window, report.verdict, Type::heading, Qt::AlignVCenter), 2, 1);
   grid.setColumnStretch(1, 1);

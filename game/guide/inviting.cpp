@@ -12,12 +12,18 @@ namespace {
 
 using guide::get;
 
+// A blow first, then the next round; a fallen hero sees to his wound.
+std::string stepInFight(Form& form) {
+  if (hasFallen(form)) return "CloseDMG";
+  return canStrike(form) ? "Atak" : "NastTura";
+}
+
 // The step to take; without a hero there is nothing to start.
 std::string stepOn(const std::string& screen, Form& form) {
   if (screen == screens::kSetUp) return get<Label>(form, "Czygra(0)").Caption.empty() ? "GraczM(0)" : "Start";
   if (screen == screens::kCreation) return "Save";
   if (screen == screens::kPreparation) return "Zakoncz";
-  if (screen == screens::kFight) return hasFallen(form) ? "CloseDMG" : "NastTura";
+  if (screen == screens::kFight) return stepInFight(form);
   return {};
 }
 

@@ -57,11 +57,6 @@ bool hasStaffInHand(Form& form) {
   return false;
 }
 
-// A blow is open; behind a spell only with a staff.
-bool canStrike(Form& form) {
-  return isUsable(form, "Atak") && hasChosen(form, "Bron") && (isUsable(form, "Rzuc") || hasStaffInHand(form));
-}
-
 // Whether the magic that the hero has pays for the chosen spell; what is typed may be no number.
 bool hasMagic(Form& form) {
   const auto price = parseNumber(get<TextBox>(form, "mana").Text);
@@ -83,6 +78,10 @@ bool isTypedIn(Form& form, const std::string& name) {
 
 bool hasFallen(Form& form) {
   return isUsable(form, "CloseDMG") && get<Label>(form, "OpisDMG").Caption == verdicts::kDeath;
+}
+
+bool canStrike(Form& form) {
+  return isUsable(form, "Atak") && hasChosen(form, "Bron") && (isUsable(form, "Rzuc") || hasStaffInHand(form));
 }
 
 std::string NextHand::begin(const std::string& screen, Form& form) {

@@ -29,6 +29,9 @@ class NextHand {
 
 // Whether the report of a fight that is open tells of the hero's death.
 bool hasFallen(Form& form);
+// Whether a blow is open in a fight: the hero has a weapon in hand and has not struck; behind a spell only
+// with a staff.
+bool canStrike(Form& form);
 
 // The control that Escape presses on a screen: what closes a report or the sheet. Empty when nothing
 // is open that it could close.

@@ -59,6 +59,20 @@ TEST(Layout, TheZonesStandInOneColumnFromTheFirstToTheLast) {
   }
 }
 
+TEST(Layout, TwoBlowsDoNotReadAsOneNumber) {
+  Stage stage;
+  setFight(stage.world, plainHero(), plainFight());
+  stage.open({"Fight"});
+  for (const char* blows : {"IleZad", "IleDMG"}) {
+    auto& label = stage.get<desktop::TextLabel>("Fight", blows);
+    const auto widthOf = [&label](const char* told) {
+      label.setText(told);
+      return label.sizeHint().width();
+    };
+    EXPECT_GT(widthOf("5 2") - widthOf("52"), 0.4 * QFontInfo(label.font()).pixelSize()) << blows;
+  }
+}
+
 TEST(Layout, PlacesEveryControlOnce) {
   Stage stage;
   openAll(stage);

@@ -50,12 +50,24 @@ TEST_F(Inviting, WhatIsOwnedCallsForNoClick) {
   EXPECT_EQ(on("CTsklep"), (Names{"Czarn(6)", "Spec(2)"}));
 }
 
-TEST_F(Inviting, TheFightAsksForTheNextRoundUntilTheHeroHasFallen) {
+TEST_F(Inviting, TheFightAsksForABlowAndThenForTheNextRound) {
   FightSetup setup = plainFight();
-  setup.PotworPierwszy = 1;
-  setFight(world, plainHero(), setup);
-  world.roll(1, 4, {1});
+  setup.potwor.Wytrzymalosc = 1000;
+  Bohater hero = richHero();
+  hero.OstatniaBron = "Nóż";
+  setFight(world, hero, setup);
   world.runtime.Show("Fight");
+  EXPECT_EQ(on("Fight"), Names{"Atak"});
+  world.roll(1, 4, {1, 1});
+  world.roll(1, 120, {1});
+  world.click("Fight", "Atak");
+  EXPECT_EQ(on("Fight"), Names{"NastTura"});
+}
+
+TEST_F(Inviting, ABareHandAsksForTheNextRound) {
+  setFight(world, plainHero(), plainFight());
+  world.runtime.Show("Fight");
+  world.get<ComboBox>("Fight", "Bron").ListIndex(-1);
   EXPECT_EQ(on("Fight"), Names{"NastTura"});
 }
 

@@ -220,6 +220,16 @@ class Looks(InBrowser):
                 " return words.getBoundingClientRect().width; })")
             self.assertGreater(wide, narrow, (width, height))
 
+    def test_two_blows_do_not_read_as_one_number(self):
+        self.go_to_fight()
+        self.page.script("document.getElementById('Fight.FDamage').hidden = false;")
+        two, one, size = self.page.script(
+            "const blows = document.getElementById('Fight.IleDMG'); const words = document.createRange();"
+            "const widths = ['5 2', '52'].map((told) => { blows.textContent = told; words.selectNodeContents(blows);"
+            " return words.getBoundingClientRect().width; });"
+            "return [...widths, parseFloat(getComputedStyle(blows).fontSize)];")
+        self.assertGreater(two - one, .4 * size)
+
     def test_what_is_beaten_stands_in_the_sheet_with_its_head(self):
         last = None
         self.lay_lists()
