@@ -197,10 +197,11 @@ void FormWindow::mirrorAll() {
 // the group.
 void FormWindow::tellAll() {
   const auto& entries = form_->controls().entries();
+  const std::string step = invitedStep(name_, *form_);
   for (std::size_t i = 0; i < entries.size(); ++i) {
     if (inOrder_[i] == nullptr) continue;
     tell(name_, entries[i], *inOrder_[i]);
-    theme::makePrimary(*inOrder_[i], isInviting(name_, *form_, entries[i]));
+    theme::makePrimary(*inOrder_[i], isInviting(name_, *form_, entries[i], step));
   }
   if (has(kMonsterPicture)) at<PictureWidget>(kMonsterPicture).setDimmed(isGroupGone(name_, *form_));
 }

@@ -69,6 +69,6 @@ void makeBanded(QWidget& frame, const QColor& band);
 // Gives a button a face of that colour at rest.
 void makeTinted(QWidget& button, const QColor& tint);
 // Makes a widget one that calls for a click, as the button that leads on from its screen does, or no more.
-void makePrimary(QWidget& widget, bool isPrimary = true);
+void makePrimary(QWidget& widget, bool isPrimary);
 
 }  // namespace brolgan::desktop::theme

@@ -273,9 +273,11 @@ void PictureButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const bool lit = isEnabled() && (underMouse() || isDown());
-  const QColor inFocus = property(kIsPrimary).toBool() ? theme::kPrimary : theme::kFocusFace;
+  const bool isPrimary = property(kIsPrimary).toBool();
+  const QColor inFocus = isPrimary ? theme::kPrimary : theme::kFocusFace;
+  const QColor atRest = isPrimary ? theme::kPrimary : theme::kButton;
   painter.setPen(QPen(hasFocus() ? theme::kFocus : theme::kInk, (hasFocus() ? 4 : 1.5) * unit));
-  painter.setBrush(hasFocus() ? inFocus : lit ? theme::kButtonHover : theme::kButton);
+  painter.setBrush(hasFocus() ? inFocus : lit ? theme::kButtonHover : atRest);
   painter.drawRoundedRect(QRectF(rect()).adjusted(2 * unit, 2 * unit, -2 * unit, -2 * unit), 5 * unit, 5 * unit);
   painter.end();
   const int inset = Unit::pixels(this, 6);

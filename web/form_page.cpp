@@ -163,13 +163,14 @@ void FormPage::mirror() {
   }
   const bool isDim = isGroupGone(name_, *form_);
   const auto& entries = form_->controls().entries();
+  const std::string step = invitedStep(name_, *form_);
   for (std::size_t i = 0; i < entries.size(); ++i) {
     if (std::holds_alternative<MediaPlayer*>(entries[i].control)) continue;
     const Mirror mirror(idOf(entries[i].fullName()), shown_[i]);
     std::visit(mirror, entries[i].control);
     mirror.state(entries[i]);
     mirror.voice(name_, entries[i]);
-    mirror.invite(isInviting(name_, *form_, entries[i]));
+    mirror.invite(isInviting(name_, *form_, entries[i], step));
     if (entries[i].name == kMonsterPicture) mirror.dim(isDim);
   }
   if (const auto* const sheet = dynamic_cast<const FHero*>(form_)) showHeads(*sheet);

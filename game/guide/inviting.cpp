@@ -18,13 +18,10 @@ std::string stepInFight(Form& form) {
   return canStrike(form) ? "Atak" : "NastTura";
 }
 
-// The step to take; without a hero there is nothing to start.
-std::string stepOn(const std::string& screen, Form& form) {
-  if (screen == screens::kSetUp) return get<Label>(form, "Czygra(0)").Caption.empty() ? "GraczM(0)" : "Start";
-  if (screen == screens::kCreation) return "Save";
-  if (screen == screens::kPreparation) return "Zakoncz";
-  if (screen == screens::kFight) return stepInFight(form);
-  return {};
+// Nobody is saved while he owes points.
+std::string stepOfCreation(Form& form) {
+  const auto points = parseNumber(get<Label>(form, "Ile_jeszcze").Caption);
+  return points && *points >= 0 ? "Save" : "";
 }
 
 bool isPaidFor(Form& form, const ControlEntry& good) {
@@ -36,9 +33,18 @@ bool isPaidFor(Form& form, const ControlEntry& good) {
 
 }  // namespace
 
-bool isInviting(const std::string& screen, Form& form, const ControlEntry& entry) {
+// Without a hero there is nothing to start.
+std::string invitedStep(const std::string& screen, Form& form) {
+  if (screen == screens::kSetUp) return get<Label>(form, "Czygra(0)").Caption.empty() ? "GraczM(0)" : "Start";
+  if (screen == screens::kCreation) return stepOfCreation(form);
+  if (screen == screens::kPreparation) return "Zakoncz";
+  if (screen == screens::kFight) return stepInFight(form);
+  return {};
+}
+
+bool isInviting(const std::string& screen, Form& form, const ControlEntry& entry, const std::string& step) {
   if (isCheckable(screen, entry)) return guide::isUsable(entry) && !isChecked(entry) && isPaidFor(form, entry);
-  return entry.fullName() == stepOn(screen, form);
+  return entry.fullName() == step;
 }
 
 }  // namespace brolgan

@@ -8,6 +8,9 @@
 
 namespace brolgan {
 
-bool isInviting(const std::string& screen, Form& form, const ControlEntry& entry);
+// The control of the step that leads on; empty when there is none to take.
+std::string invitedStep(const std::string& screen, Form& form);
+// Whether a control calls for a click, where that step is the one to take.
+bool isInviting(const std::string& screen, Form& form, const ControlEntry& entry, const std::string& step);
 
 }  // namespace brolgan

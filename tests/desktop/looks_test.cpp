@@ -488,7 +488,10 @@ TEST(Looks, DeathLightsUpThePlaster) {
   ASSERT_EQ(stage.focus("Fight"), "CloseDMG");
   EXPECT_EQ(face(), theme::kPrimary);
   plaster.clearFocus();
-  EXPECT_EQ(face(), theme::kButton);
+  EXPECT_EQ(face(), theme::kPrimary);
+  stage.at("Fight", "CloseZad").show();
+  const QImage other = stage.at("Fight", "CloseZad").grab().toImage();
+  EXPECT_EQ(other.pixelColor(12, other.height() / 2), theme::kButton);
 }
 
 }  // namespace

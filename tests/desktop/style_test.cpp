@@ -297,7 +297,7 @@ TEST(Style, AFrameWithoutATitleHasTheSameBand) {
 
 TEST(Style, TheButtonThatLeadsOnKeepsItsFaceInFocus) {
   Shown<QPushButton> shown;
-  theme::makePrimary(shown.widget);
+  theme::makePrimary(shown.widget, true);
   EXPECT_EQ(shown.at(20, 20), theme::kPrimary);
   shown.widget.setFocus(Qt::MouseFocusReason);
   EXPECT_EQ(shown.at(20, 20), theme::kPrimary);

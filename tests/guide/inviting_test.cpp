@@ -15,8 +15,9 @@ class Inviting : public testing::Test {
   Names on(const std::string& screen) {
     Names names;
     Form& form = world.form(screen);
+    const std::string step = invitedStep(screen, form);
     for (const ControlEntry& entry : form.controls().entries()) {
-      if (isInviting(screen, form, entry)) names.push_back(entry.fullName());
+      if (isInviting(screen, form, entry, step)) names.push_back(entry.fullName());
     }
     return names;
   }
@@ -39,6 +40,23 @@ TEST_F(Inviting, GoodsThatThePointsPayForCallForAClick) {
   world.click("CTmhero", "Czarn(0)");
   world.click("CTmhero", "Czarn(1)");
   EXPECT_EQ(on("CTmhero"), (Names{"Czarn(6)", "Spec(0)", "Spec(2)", "Save"}));
+}
+
+TEST_F(Inviting, WhoOwesPointsIsNotAskedToSave) {
+  constexpr int kSatrapa = 5;
+  setCreation(world, 0);
+  world.runtime.Show("CTmhero");
+  world.click("CTmhero", member("Klasa", kSatrapa));
+  world.click("CTmhero", "PLUS(0)");
+  EXPECT_EQ(on("CTmhero").back(), "Save");
+  world.click("CTmhero", member("Klasa", 0));
+  EXPECT_EQ(on("CTmhero"), Names{});
+}
+
+TEST_F(Inviting, ThePreparationAsksForTheFight) {
+  setPreparation(world, plainHero());
+  world.runtime.Show("Prefight");
+  EXPECT_EQ(on("Prefight"), Names{"Zakoncz"});
 }
 
 TEST_F(Inviting, WhatIsOwnedCallsForNoClick) {

@@ -14,5 +14,6 @@ cmake --preset web >build/run-web.log 2>&1 && cmake --build --preset web >>build
 port=8080
 is_free() { python3 -c "import socket; socket.socket().bind(('127.0.0.1', $port))" 2>/dev/null; }
 until is_free || [ "$port" -ge 8099 ]; do port=$((port + 1)); done
+is_free || { echo "No port from 8080 to 8099 is free." >&2; exit 1; }
 echo "The game is at http://127.0.0.1:$port/ until you press Ctrl+C."
 exec python3 -m http.server "$port" --bind 127.0.0.1 --directory build/web/gra
