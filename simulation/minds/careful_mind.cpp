@@ -66,11 +66,12 @@ bool CarefulMind::buyBest(DepartmentScreen& screen, bool atCreation) {
   return isWise ? buy(screen, offers[chosen]) : buyFromPlenty(screen, offers);
 }
 
-// Whoever has more points than he could want to save buys what may help one day.
+// Whoever has more points than he could want to save, or cannot save any, buys what may help one day.
 bool CarefulMind::buyFromPlenty(DepartmentScreen& screen, const std::vector<Offer>& offers) {
+  const int reserve = notes_.is(kGambler) ? 0 : kPatience;
   const auto found = std::find_if(offers.begin(), offers.end(), [&](const Offer& offer) {
     const bool lasts = offer.ware == Ware::step || offer.ware == Ware::spell;
-    return lasts && notes_.points >= offer.price + kPatience && isOpen(screen, offer);
+    return lasts && notes_.points >= offer.price + reserve && isOpen(screen, offer);
   });
   return found != offers.end() && buy(screen, *found);
 }

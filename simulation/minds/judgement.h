@@ -1,4 +1,4 @@
-// How a careful player weighs things: what a fight is worth to him and how best to fight it, which
+// How a player who reckons weighs things: what a fight is worth to him and how best to fight it, which
 // zone to go to, and which of all goods helps him on the most.
 #pragma once
 
@@ -36,7 +36,7 @@ struct Temper {
 };
 // A sensible player hurries when others may be there before him, and takes his time alone.
 Temper sensible(int rivals);
-inline constexpr Temper kDaredevil = {3, 2.5, 0.2, 2};
+inline constexpr Temper kDaredevil = {12, 0.3, 0.15, 2};
 
 class Judgement {
  public:
@@ -73,7 +73,7 @@ class Judgement {
   Foresight reckoning_;
   std::array<double, kOfferPlaces> taste_{};
   double courage_ = 1;
-  double care_ = 1;
+  double care_ = 2.5;
   double temptation_ = 1;
 };
 

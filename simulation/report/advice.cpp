@@ -207,8 +207,8 @@ std::string classTable(const Knowledge& known, const Study& study) {
     ranks[3][i] = all[i].throne.value();
   }
   std::ostringstream out;
-  out << "| Klasa | Wygrywa zwykle w turze | Punkty na walkę | Śmierci na 100 walk | Traci wytrzymałości na walkę | "
-         "Wygrane w „Tronie Królów” | Najczęściej kończy z bronią | Na tle innych "
+  out << "| Klasa | Wygrywa zwykle w turze | Punkty na walkę | Śmierci na 100 walk poza „Tronem” "
+         "| Traci wytrzymałości na walkę | Wygrane w „Tronie Królów” | Najczęściej kończy z bronią | Na tle innych "
          "|\n|---|---|---|---|---|---|---|---|\n";
   for (std::size_t i = 0; i < kClasses; ++i) {
     const Careers& own = all[i];

@@ -124,8 +124,8 @@ Aim harmlessAim(const Knowledge& known, const Measures& all) {
 Aim payAim(const Measures& all) {
   const double ratio = all.wisePay.value() > 0 ? all.gamblePay.value() / all.wisePay.value() : 0;
   const double margin = all.wisePay.value() > 0 ? all.gamblePay.margin() / all.wisePay.value() : 0;
-  return {"„Pandoria” płaci tyle, co mądry wybór w tej samej turze", "1.0 w przedziale",
-          oneDigit(ratio) + " (±" + oneDigit(margin) + ")", ratio + margin >= 1};
+  return {"„Pandoria” płaci tyle, co mądry wybór w tej samej turze", "co najmniej 100% w przedziale",
+          oneDigit(100 * ratio) + "% (±" + oneDigit(100 * margin) + ")", ratio + margin >= 1};
 }
 
 Aim dearAim(const Knowledge& known, const Study& study) {

@@ -56,8 +56,16 @@ std::vector<std::size_t> dialsOf(const std::string& list) {
       meant = meant || std::string(kDialTable[i].name).starts_with(name);
     if (meant) found.push_back(i);
   }
-  if (found.empty()) throw std::invalid_argument("no dial begins like that: " + list);
   return found;
+}
+
+void refuseUnknown(const std::string& list) {
+  std::istringstream names(list);
+  for (std::string name; std::getline(names, name, ',');) {
+    const bool known = std::any_of(kDialTable.begin(), kDialTable.end(),
+                                   [&name](const Dial& dial) { return std::string(dial.name).starts_with(name); });
+    if (!known) throw std::invalid_argument("no dial begins like that: " + name);
+  }
 }
 
 Shape shapeFrom(const std::vector<std::string>& words) {
@@ -230,6 +238,7 @@ void act(const Options& options) {
   setup.generations = options.number("--generations", setup.generations);
   setup.threads = options.number("--threads", 1);
   setup.seed = static_cast<std::uint64_t>(options.number("--seed", 1));
+  refuseUnknown(options.text("--dials", ""));
   setup.dials = dialsOf(options.text("--dials", ""));
   setup.start = shapeFrom(options.words);
   if (options.words[0] == "run") {

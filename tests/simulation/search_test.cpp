@@ -127,7 +127,7 @@ TEST(Settler, HardensWhoPaysMoreAndHarmsLess) {
 TEST(Settler, LeavesTheFirstThreeAndTheCourtAlone) {
   const DataFiles data = loadData(BROLGAN_ASSETS);
   Settler settler(data);
-  for (int i = 0; i < 5; ++i) settler.hear(harmOf(5, 43, 0.5));
+  for (int i = 0; i < 30; ++i) settler.hear(harmOf(5, 0, 0.5));
   const Knowledge before(data);
   const Knowledge after(settler.data());
   for (const std::size_t i : {0, 1, 2, 41, 42, 43, 44}) {
