@@ -12,8 +12,10 @@
 #include <fstream>
 #include <iostream>
 #include <limits>
+#include <set>
 #include <sstream>
 #include <stdexcept>
+#include <string_view>
 
 #include "simulation/options.h"
 #include "simulation/report/tallies.h"
@@ -46,26 +48,24 @@ struct Setup {
   Shape start{};
 };
 
-// The dials of a list of names or beginnings; all for an empty one.
-std::vector<std::size_t> dialsOf(const std::string& list) {
+std::vector<std::size_t> dialsBeginning(const std::string& name) {
   std::vector<std::size_t> found;
   for (std::size_t i = 0; i < kDials; ++i) {
-    std::istringstream names(list);
-    bool meant = list.empty();
-    for (std::string name; std::getline(names, name, ',');)
-      meant = meant || std::string(kDialTable[i].name).starts_with(name);
-    if (meant) found.push_back(i);
+    if (std::string_view(kDialTable[i].name).starts_with(name)) found.push_back(i);
   }
+  if (found.empty()) throw std::invalid_argument("no dial begins like that: " + name);
   return found;
 }
 
-void refuseUnknown(const std::string& list) {
+// The dials of a list of names or beginnings of names, each once; all for an empty one.
+std::vector<std::size_t> dialsOf(const std::string& list) {
+  if (list.empty()) return dialsBeginning("");
+  std::set<std::size_t> found;
   std::istringstream names(list);
   for (std::string name; std::getline(names, name, ',');) {
-    const bool known = std::any_of(kDialTable.begin(), kDialTable.end(),
-                                   [&name](const Dial& dial) { return std::string(dial.name).starts_with(name); });
-    if (!known) throw std::invalid_argument("no dial begins like that: " + name);
+    for (const std::size_t dial : dialsBeginning(name)) found.insert(dial);
   }
+  return {found.begin(), found.end()};
 }
 
 Shape shapeFrom(const std::vector<std::string>& words) {
@@ -238,7 +238,6 @@ void act(const Options& options) {
   setup.generations = options.number("--generations", setup.generations);
   setup.threads = options.number("--threads", 1);
   setup.seed = static_cast<std::uint64_t>(options.number("--seed", 1));
-  refuseUnknown(options.text("--dials", ""));
   setup.dials = dialsOf(options.text("--dials", ""));
   setup.start = shapeFrom(options.words);
   if (options.words[0] == "run") {
