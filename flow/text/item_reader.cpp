@@ -109,8 +109,9 @@ void ItemReader::skipDelimiter() {
 
 bool ItemReader::skipLineEnd() {
   if (!atLineEnd()) return false;
-  const bool pair = bytes_.compare(at_, 2, "\r\n") == 0;
-  at_ += pair ? 2 : 1;
+  const bool carriageReturn = bytes_[at_] == '\r';
+  ++at_;
+  if (carriageReturn && !atEnd() && bytes_[at_] == '\n') ++at_;
   ++line_;
   return true;
 }

@@ -42,26 +42,34 @@ const DeviateTable excess(normalExcess);
 
 }  // namespace
 
-Blow blowOf(const HeroNotes& hero, const Weapon& weapon, int weaponIndex) {
+Blow blowOf(const Striker& striker, const Weapon& weapon) {
   if (!weapon.melee) return {weapon.damage.mean, weapon.damage.variance};
-  const Throw& strength = modifierThrow(hero.steps[kModifier]);
-  const double factor = 1 + hero.percent[static_cast<std::size_t>(weaponIndex)] / 100.0;
-  const double plus = kClassTable[static_cast<std::size_t>(hero.klasa)].plus;
-  const double witcher = hero.is(kWitcher) ? witcherBonus(hero.value(kSpeed)).value() : 0;
+  const Throw& strength = modifierThrow(striker.modifier);
+  const double factor = 1 + striker.percent / 100.0;
+  const double plus = kClassTable[static_cast<std::size_t>(striker.klasa)].plus;
+  const bool isWitcher = striker.klasa == kWitcher;
+  const double witcher = isWitcher ? witcherBonus(kLadderNumbers[kSpeed][striker.speed - 1]).value() : 0;
   return {(strength.mean + plus) * factor + weapon.damage.mean + witcher,
           strength.variance * factor * factor + weapon.damage.variance};
 }
 
-double growthOf(const HeroNotes& hero, int weaponIndex) {
+Blow blowOf(const HeroNotes& hero, const Weapon& weapon, int weaponIndex) {
   const int percent = hero.percent[static_cast<std::size_t>(weaponIndex)];
-  const double chance = 1 - std::min(percent, kMeleeAlwaysGrows - 1) / static_cast<double>(kMeleeGrowthDie - 1);
-  const double plus = kClassTable[static_cast<std::size_t>(hero.klasa)].plus;
-  return chance * kGrowth / 100.0 * (modifierThrow(hero.steps[kModifier]).mean + plus);
+  return blowOf({hero.klasa, hero.steps[kModifier], hero.steps[kSpeed], percent}, weapon);
 }
 
-double pastArmour(const Blow& blow, double armour) {
-  const double mean = blow.mean - armour;
-  const double spread = std::sqrt(blow.variance + 0.08);
+double growthOf(const Striker& striker) {
+  const int percent = std::min(striker.percent, kMeleeAlwaysGrows - 1);
+  const double chance = 1 - percent / static_cast<double>(kMeleeGrowthDie - 1);
+  const double plus = kClassTable[static_cast<std::size_t>(striker.klasa)].plus;
+  return chance * kGrowth / 100.0 * (modifierThrow(striker.modifier).mean + plus);
+}
+
+double spreadOf(const Blow& blow) { return std::sqrt(blow.variance + 0.08); }
+
+double pastArmour(const Blow& blow, double armour) { return pastArmour(blow.mean - armour, spreadOf(blow)); }
+
+double pastArmour(double mean, double spread) {
   if (mean >= 3 * spread) return mean;
   if (mean <= -3 * spread) return 0;
   return spread * excess.at(mean / spread);

@@ -13,6 +13,15 @@ struct Blow {
   friend bool operator==(const Blow&, const Blow&) = default;
 };
 
+// What of a hero stands behind a melee blow.
+struct Striker {
+  int klasa = 0;
+  int modifier = 1;  // a step, as speed
+  int speed = 1;
+  int percent = 0;
+};
+
+Blow blowOf(const Striker& striker, const Weapon& weapon);
 Blow blowOf(const HeroNotes& hero, const Weapon& weapon, int weaponIndex);
 
 // The rules of practice: a melee blow adds so many percent when its die beats the percent so far, or
@@ -22,10 +31,13 @@ inline constexpr int kMeleeGrowthDie = 120;
 inline constexpr int kMeleeAlwaysGrows = 76;
 
 // By how much the mean of a melee blow rises with one more blow, from the practice that it gives.
-double growthOf(const HeroNotes& hero, int weaponIndex);
+double growthOf(const Striker& striker);
 
 // The mean of a damage of that mean and variance once armour is off and nothing is below 0.
 double pastArmour(const Blow& blow, double armour);
+// The same of a mean that is less the armour already, and of a spread as spreadOf tells it.
+double pastArmour(double mean, double spread);
+double spreadOf(const Blow& blow);
 
 // The share of a normal distribution below x, to four digits.
 double below(double x);

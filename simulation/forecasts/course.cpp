@@ -26,6 +26,8 @@ constexpr double kGrenadeFaces = 30;
 constexpr double kMortarBonus = 8;
 constexpr double kMishap = 1.0 / 58;
 constexpr double kSuckerMean = 2;
+// So many spreads away nothing happens by chance any more.
+constexpr double kCertain = 4;
 // No hero outlives so much.
 constexpr double kDeadly = 150;
 
@@ -48,17 +50,6 @@ Blow firstGrenade(const Monster& monster, const Situation& at) {
   return {(low + high) / 2 + mortarBonus(at), (high - low) * (high - low) / 12};
 }
 
-// The hero of a situation, as far as his blows go.
-HeroNotes striker(const Situation& at) {
-  HeroNotes hero;
-  hero.klasa = at.klasa;
-  hero.steps[kModifier] = at.modifier;
-  hero.steps[kSpeed] = at.speed;
-  hero.steps[kRegeneration] = at.regeneration;
-  hero.percent[static_cast<std::size_t>(at.weapon)] = at.percent;
-  return hero;
-}
-
 // What was dealt to the target and to all, and what was suffered, round by round.
 class Course {
  public:
@@ -68,10 +59,11 @@ class Course {
         weapon_(known.weapons[static_cast<std::size_t>(at.weapon)]),
         grenade_(firstGrenade(monster_, at)),
         magic_(at.magic) {
-    const HeroNotes hero = striker(at);
-    blow_ = blowOf(hero, weapon_, at.weapon);
-    growth_ = weapon_.melee ? growthOf(hero, at.weapon) : 0;
-    regain_ = hero.is(kWizard) ? wizardRegain(hero.value(kRegeneration)).value() : 0;
+    const Striker striker{at.klasa, at.modifier, at.speed, at.percent};
+    blow_ = blowOf(striker, weapon_);
+    blowSpread_ = spreadOf(blow_);
+    growth_ = weapon_.melee ? growthOf(striker) : 0;
+    regain_ = at.klasa == kWizard ? wizardRegain(kLadderNumbers[kRegeneration][at.regeneration - 1]).value() : 0;
     bare_ = strikeOf(at.armour);
     covered_ =
         has(at, kShielded) ? strikeOf(at.armour + (at.shield == Hinge::good ? kGoodShield : kPoorShield)) : bare_;
@@ -150,11 +142,13 @@ class Course {
     harmVariance_ += kHealingDoubt;
   }
 
-  void hitTarget(const Blow& blow, double armour) {
-    dealt_ += pastArmour(blow, armour);
-    variance_ += blow.variance;
+  void deal(double harm, double variance) {
+    dealt_ += harm;
+    variance_ += variance;
     ++attacks_;
   }
+
+  void hitTarget(const Blow& blow, double armour) { deal(pastArmour(blow, armour), blow.variance); }
 
   void hitAll(const Blow& blow, double armour) {
     toAll_ += pastArmour(blow, armour);
@@ -164,7 +158,7 @@ class Course {
   void attack() {
     if (weapon_.melee) {
       for (int i = 0; i < (at_.klasa == kBerserker ? 2 : 1); ++i) {
-        hitTarget(blow_, monster_.armour);
+        deal(pastArmour(blow_.mean - monster_.armour, blowSpread_), blow_.variance);
         blow_.mean += growth_;
       }
       return;
@@ -214,11 +208,19 @@ class Course {
     }
     const double each = dealt_ / attacks_;
     const double waste = weapon_.fire ? monster_.armour : std::max(each / 2, each - life);
-    const double perSpread = 1 / spread;
+    return countFallingSingly((dealt_ + 0.5 - life) / spread, (life + waste) / spread);
+  }
+
+  // How many stand when one after the other falls: the first by so many spreads, each further one by less.
+  double countFallingSingly(double margin, double step) {
     double standing = 0;
-    for (int k = 1; k <= monster_.count; ++k) {
-      const double needed = k * life + (k - 1) * waste;
-      lastStands_ = 1 - below((dealt_ + 0.5 - needed) * perSpread);
+    for (int left = monster_.count; left > 0; --left, margin -= step) {
+      if (margin >= kCertain) continue;
+      if (margin <= -kCertain) {
+        lastStands_ = 1;
+        return standing + left;
+      }
+      lastStands_ = 1 - below(margin);
       standing += lastStands_;
     }
     return standing;
@@ -265,6 +267,7 @@ class Course {
   Blow grenade_;
   double magic_;
   Blow blow_;
+  double blowSpread_ = 0;
   double growth_ = 0;
   int regain_ = 0;
   Strike bare_;
@@ -320,6 +323,18 @@ void takeSpells(Situation& at, const HeroNotes& hero, const Plan& plan, bool sta
   }
 }
 
+void addShields(Branches& branches, const Situation& situation, double chance) {
+  if (!has(situation, kShielded)) {
+    branches.add(situation, chance);
+    return;
+  }
+  Situation hinged = situation;
+  hinged.shield = Hinge::poor;
+  branches.add(hinged, chance / 2);
+  hinged.shield = Hinge::good;
+  branches.add(hinged, chance / 2);
+}
+
 }  // namespace
 
 Situation situationOf(const Knowledge& known, const HeroNotes& hero, const Monster& monster, const Plan& plan,
@@ -349,24 +364,19 @@ std::size_t hashOf(const Situation& situation) {
 
 Toll reckon(const Knowledge& known, const Situation& situation) { return Course(known, situation).run(); }
 
-std::vector<Branch> branchesOf(const Knowledge& known, const Situation& situation) {
-  std::vector<Branch> branches = {{situation, 1}};
+Branches branchesOf(const Knowledge& known, const Situation& situation) {
+  Branches branches;
   const double needed = faceNeeded(known.monsters[static_cast<std::size_t>(situation.monster)], situation);
-  if (situation.grenades > 0 && needed > 1 && needed < kGrenadeFaces) {
-    const double weak = (needed - 1) / (kGrenadeFaces - 1);
-    branches.push_back({situation, 1 - weak});
-    branches[0].chance = weak;
-    branches[0].situation.grenade = Hinge::poor;
-    branches[1].situation.grenade = Hinge::good;
+  if (situation.grenades == 0 || needed <= 1 || needed >= kGrenadeFaces) {
+    addShields(branches, situation, 1);
+    return branches;
   }
-  if (!has(situation, kShielded)) return branches;
-  const std::size_t count = branches.size();
-  for (std::size_t i = 0; i < count; ++i) {
-    branches[i].chance /= 2;
-    branches[i].situation.shield = Hinge::poor;
-    branches.push_back(branches[i]);
-    branches.back().situation.shield = Hinge::good;
-  }
+  const double weak = (needed - 1) / (kGrenadeFaces - 1);
+  Situation hinged = situation;
+  hinged.grenade = Hinge::poor;
+  addShields(branches, hinged, weak);
+  hinged.grenade = Hinge::good;
+  addShields(branches, hinged, 1 - weak);
   return branches;
 }
 

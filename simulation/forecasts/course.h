@@ -2,9 +2,10 @@
 // paper: no dice are thrown.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <span>
 
 #include "simulation/forecasts/blow.h"
 #include "simulation/forecasts/outlook.h"
@@ -68,6 +69,15 @@ struct Branch {
   Situation situation;
   double chance = 0;
 };
-std::vector<Branch> branchesOf(const Knowledge& known, const Situation& situation);
+class Branches {
+ public:
+  void add(const Situation& situation, double chance) { all_[count_++] = {situation, chance}; }
+  [[nodiscard]] std::span<const Branch> all() const { return {all_.data(), count_}; }
+
+ private:
+  std::array<Branch, 4> all_;
+  std::size_t count_ = 0;
+};
+Branches branchesOf(const Knowledge& known, const Situation& situation);
 
 }  // namespace brolgan::simulation

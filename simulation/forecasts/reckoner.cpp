@@ -49,7 +49,8 @@ Outlook Reckoner::operator()(const HeroNotes& hero, const Monster& monster, cons
     add(sum, hero, situation, tollOf(situation), 1);
     return sum;
   }
-  for (const Branch& branch : branchesOf(known_, situation)) {
+  const Branches branches = branchesOf(known_, situation);
+  for (const Branch& branch : branches.all()) {
     add(sum, hero, branch.situation, tollOf(branch.situation), branch.chance);
   }
   return sum;

@@ -122,9 +122,8 @@ class Table {
   }
 
   void reward(TurnRecord& turn) const {
-    turn.earned = static_cast<int>(pointsFor(setup_.seats[static_cast<std::size_t>(turn.player)].klasa,
-                                             known_.monsters[static_cast<std::size_t>(turn.monster)]) +
-                                   0.5);
+    const auto klasa = static_cast<std::size_t>(setup_.seats[static_cast<std::size_t>(turn.player)].klasa);
+    turn.earned = static_cast<int>(known_.monsters[static_cast<std::size_t>(turn.monster)].points[klasa] + 0.5);
   }
 
   void leaveFallen(FightScreen& screen, const TurnRecord& turn) {

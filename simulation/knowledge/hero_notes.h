@@ -23,7 +23,7 @@ struct HeroNotes {
   int grenades = 0;
   int ammo = 0;
 
-  [[nodiscard]] int value(int statistic) const { return ladderNumber(statistic, steps[statistic]); }
+  [[nodiscard]] int value(int statistic) const { return kLadderNumbers[statistic][steps[statistic] - 1]; }
   [[nodiscard]] int fullEndurance() const { return value(kEndurance) - lostEndurance; }
   [[nodiscard]] int fullMagic() const { return value(kPower); }
   [[nodiscard]] bool is(ClassIndex index) const { return klasa == index; }

@@ -42,10 +42,14 @@ Weapon knowWeapon(const BronRecord& record, int index, bool melee) {
 }
 
 Monster knowMonster(const Potwor& record, int number) {
-  return {record.Nazwa,           number,
-          record.Ilosc.value(),   record.Szybkosc.value(),
-          knowThrow(record.Atak), record.Wytrzymalosc.value(),
-          record.Pancerz.value(), record.Nazwa == kLastMonster};
+  Monster monster{record.Nazwa,           number,
+                  record.Ilosc.value(),   record.Szybkosc.value(),
+                  knowThrow(record.Atak), record.Wytrzymalosc.value(),
+                  record.Pancerz.value(), record.Nazwa == kLastMonster};
+  for (std::size_t i = 0; i < monster.points.size(); ++i) {
+    monster.points[i] = reward(kClassTable[i].caption, record.Ilosc, record.Atak, record.Pancerz);
+  }
+  return monster;
 }
 
 }  // namespace
@@ -82,17 +86,14 @@ const Monster& Knowledge::monsterNamed(const std::string& name) const {
 
 int topStep(int statistic) { return kStatisticTable.at(static_cast<std::size_t>(statistic)).top(); }
 
-int ladderNumber(int statistic, int step) {
-  static const auto numbers = [] {
-    std::array<std::array<int, 12>, kStatistics> all{};
-    for (int i = 0; i < kStatistics; ++i) {
-      if (i == kModifier) continue;
-      for (int s = 1; s <= topStep(i); ++s) all[i][s - 1] = ladderValue(static_cast<Statistic>(i), s).value();
-    }
-    return all;
-  }();
-  return numbers[static_cast<std::size_t>(statistic)][static_cast<std::size_t>(step - 1)];
-}
+const std::array<std::array<int, 12>, kStatistics> kLadderNumbers = [] {
+  std::array<std::array<int, 12>, kStatistics> all{};
+  for (int i = 0; i < kStatistics; ++i) {
+    if (i == kModifier) continue;
+    for (int s = 1; s <= topStep(i); ++s) all[i][s - 1] = ladderValue(static_cast<Statistic>(i), s).value();
+  }
+  return all;
+}();
 
 const Throw& modifierThrow(int step) {
   static const auto throws = [] {
@@ -108,11 +109,6 @@ double drawChance(const Strefa& zone, int monster) {
   if (number < zone.OdPotwora || number > zone.DoPotwora) return 0;
   const double whole = 1.0 / (zone.DoPotwora - zone.OdPotwora);
   return (number == zone.OdPotwora || number == zone.DoPotwora) ? whole / 2 : whole;
-}
-
-double pointsFor(int klasa, const Monster& monster) {
-  const Kostka attack{monster.attack.low, monster.attack.high, monster.attack.dice, monster.attack.plus};
-  return reward(kClassTable.at(static_cast<std::size_t>(klasa)).caption, monster.count, attack, monster.armour);
 }
 
 }  // namespace brolgan::simulation

@@ -54,7 +54,8 @@ struct Monster {
   Throw attack;
   int life = 0;
   int armour = 0;
-  bool last = false;  // beating it ends the game
+  bool last = false;                      // beating it ends the game
+  std::array<double, kClasses> points{};  // for beating the group, by class
 };
 
 struct Knowledge {
@@ -67,15 +68,12 @@ struct Knowledge {
   [[nodiscard]] const Monster& monsterNamed(const std::string& name) const;
 };
 
-// The value of a statistic at a step, without looking it up in captions each time.
-int ladderNumber(int statistic, int step);
+// The values of the statistics at each step, without looking them up in captions each time.
+extern const std::array<std::array<int, 12>, kStatistics> kLadderNumbers;
 int topStep(int statistic);
 const Throw& modifierThrow(int step);
 
 // How likely a zone draws its monster number, counted from 0.
 double drawChance(const Strefa& zone, int monster);
-
-// The points for beating a monster's group, by class.
-double pointsFor(int klasa, const Monster& monster);
 
 }  // namespace brolgan::simulation

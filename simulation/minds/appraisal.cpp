@@ -150,16 +150,16 @@ double Judgement::power(const HeroNotes& hero, const Sight& sight, const Plan& p
   return strength(hero, outlook) - 0.04 * outlook.grenadesUsed;
 }
 
-std::vector<Judgement::Sight> Judgement::frontier(const HeroNotes& hero) const {
-  int edge = 0;
-  while (edge < kMonsters - 1) {
-    const Prospect prospect = plan(hero, known_.monsters[edge], hero.value(kSpeed));
+// Heroes grow, so the edge is looked for from where it was found last.
+std::vector<Judgement::Sight> Judgement::frontier(const HeroNotes& hero) {
+  while (edge_ < kMonsters - 1) {
+    const Prospect prospect = plan(hero, known_.monsters[edge_], hero.value(kSpeed));
     if (prospect.outlook.win < 0.85) break;
-    edge += 2;
+    edge_ += 2;
   }
   std::vector<Sight> sights;
   for (const int step : {-2, 0, 2, 4, 7, 10}) {
-    const int i = std::clamp(edge + step, 0, kMonsters - 1);
+    const int i = std::clamp(edge_ + step, 0, kMonsters - 1);
     Sight sight{&known_.monsters[i], plan(hero, known_.monsters[i], hero.value(kSpeed)).plan, 0};
     sight.power = power(hero, sight, sight.plan);
     sights.push_back(sight);
@@ -193,7 +193,8 @@ double Judgement::powerWith(const HeroNotes& hero, const Sight& sight, const Off
     plan.grenades = std::min(4, hero.grenades);
   }
   double best = power(hero, sight, plan);
-  if (offer.ware == Ware::spell || offer.ware == Ware::weapon) best = std::max(best, power(hero, sight, sight.plan));
+  if (offer.ware == Ware::weapon) best = std::max(best, sight.power);
+  if (offer.ware == Ware::spell) best = std::max(best, power(hero, sight, sight.plan));
   if (offer.ware == Ware::step && offer.index == kPower) best = std::max(best, powerWithSpells(hero, sight));
   if (offer.ware == Ware::spell && offer.index == kAutostart && hero.magic >= 3) {
     HeroNotes faster = hero;
@@ -216,7 +217,7 @@ void Judgement::creditBundles(const HeroNotes& hero, const std::vector<Offer>& w
   }
 }
 
-std::vector<double> Judgement::gains(const HeroNotes& hero, const std::vector<Offer>& wares, int reach) const {
+std::vector<double> Judgement::gains(const HeroNotes& hero, const std::vector<Offer>& wares, int reach) {
   const HeroNotes today = onAnOrdinaryDay(hero);
   const auto sights = frontier(today);
   std::vector<double> gains;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <utility>
 
 #include "rules/battle.h"
 #include "rules/weapons.h"
@@ -29,10 +31,11 @@ double hunger(const HeroNotes& hero) {
   return std::min(1.0, missing / kSated);
 }
 
-// What a reward is worth to a hero; a gambler cannot save and leaves with what one visit takes.
-double rewardWorth(const HeroNotes& hero, const Monster& monster) {
+// What beating a monster is worth to a hero; a gambler cannot save and leaves with what one visit takes.
+double prize(const HeroNotes& hero, const Monster& monster) {
+  if (monster.last) return kVictory;
   constexpr double kOneVisit = 9;
-  const double points = pointsFor(hero.klasa, monster);
+  const double points = monster.points[hero.klasa];
   return hunger(hero) * (hero.is(kGambler) ? std::min(points, kOneVisit) : points);
 }
 
@@ -110,7 +113,7 @@ Judgement::Judgement(const Knowledge& known, Foresight foresight, Foresight reck
 }
 
 double Judgement::worth(const HeroNotes& hero, const Monster& monster, const Outlook& outlook) const {
-  const double points = monster.last ? kVictory : rewardWorth(hero, monster);
+  const double points = prize(hero, monster);
   const double fall = lifeCost(hero.lives) / courage_;
   double worth = outlook.win * points - (1 - outlook.win) * fall;
   worth -= 0.8 * outlook.grenadesUsed + 0.1 * outlook.ammoUsed;
@@ -192,18 +195,56 @@ Prospect Judgement::plan(const HeroNotes& hero, const Monster& monster, int init
   return best;
 }
 
-int Judgement::bestZone(const HeroNotes& hero, bool daring) const {
-  std::array<double, kMonsters> worths{};
-  for (int i = 0; i < kMonsters; ++i) worths[i] = plan(hero, known_.monsters[i], hero.value(kSpeed)).worth;
-  std::array<double, kZoneCount> zones{};
-  for (int zone = 0; zone < kZoneCount; ++zone) {
-    for (int i = kZones[zone].OdPotwora - 1; i < kZones[zone].DoPotwora; ++i) {
-      zones[zone] += drawChance(kZones[zone], i) * worths[i];
+// What each zone is worth to a hero, found out no further than is needed to see that it is not the best.
+class Judgement::Map {
+ public:
+  Map(const Judgement& judgement, const HeroNotes& hero) : judgement_(judgement), hero_(hero) {
+    for (int i = 0; i < kMonsters; ++i) {
+      const Monster& monster = judgement.known_.monsters[i];
+      worths_[i] = std::max(0.0, prize(hero, monster));
     }
   }
-  const auto best = std::max_element(zones.begin(), zones.end());
-  const bool gambles = daring && hero.lives > 1 && zones[kPandoria] > temptation_ * *best;
-  return gambles ? kPandoria : static_cast<int>(best - zones.begin());
+
+  // What the zone is worth; of one that is worth less than that, only that it is less.
+  double worthOf(int zone, double least) {
+    const Strefa& bounds = kZones[zone];
+    double most = sum(bounds);
+    for (int i = bounds.DoPotwora - 1; i >= bounds.OdPotwora - 1 && most >= least; --i) {
+      if (std::exchange(seen_[i], true)) continue;
+      worths_[i] = judgement_.plan(hero_, judgement_.known_.monsters[i], hero_.value(kSpeed)).worth;
+      most = sum(bounds);
+    }
+    return most;
+  }
+
+ private:
+  [[nodiscard]] double sum(const Strefa& bounds) const {
+    double sum = 0;
+    for (int i = bounds.OdPotwora - 1; i < bounds.DoPotwora; ++i) sum += drawChance(bounds, i) * worths_[i];
+    return sum;
+  }
+
+  const Judgement& judgement_;
+  const HeroNotes& hero_;
+  std::array<double, kMonsters> worths_{};  // no less than the worth of a monster that was not looked at yet
+  std::array<bool, kMonsters> seen_{};
+};
+
+// The later zones come first, since they promise more and show soon when they are too strong.
+int Judgement::bestZone(const HeroNotes& hero, bool daring) const {
+  constexpr std::array<int, kZoneCount> kOrder = {3, 4, 5, 6, 7, 8, 9, kThroneZone, 2, 1, 0, kPandoria};
+  Map map(*this, hero);
+  int best = 0;
+  double most = -std::numeric_limits<double>::infinity();
+  const auto consider = [&](int zone) {
+    const double worth = map.worthOf(zone, most);
+    if (worth < most || (worth == most && zone > best)) return;
+    most = worth;
+    best = zone;
+  };
+  for (const int zone : kOrder) consider(zone);
+  const bool gambles = daring && hero.lives > 1 && map.worthOf(kPandoria, temptation_ * most) > temptation_ * most;
+  return gambles ? kPandoria : best;
 }
 
 }  // namespace brolgan::simulation

@@ -52,16 +52,17 @@ class Judgement {
   [[nodiscard]] std::vector<Offer> offers(const HeroNotes& hero, bool atCreation) const;
   // How much an offer helps for each point that it costs, by the player's taste; 0 for what costs
   // more than reach.
-  [[nodiscard]] std::vector<double> gains(const HeroNotes& hero, const std::vector<Offer>& wares, int reach) const;
+  [[nodiscard]] std::vector<double> gains(const HeroNotes& hero, const std::vector<Offer>& wares, int reach);
 
  private:
   struct Sight;
+  class Map;
 
   [[nodiscard]] double worth(const HeroNotes& hero, const Monster& monster, const Outlook& outlook) const;
   [[nodiscard]] Prospect weigh(const HeroNotes& hero, const Monster& monster, const Plan& plan, int initiative) const;
   void tryBetter(Prospect& best, const Plan& plan, const HeroNotes& hero, const Monster& monster, int init) const;
   [[nodiscard]] std::vector<int> bestWeapons(const HeroNotes& hero, const Monster& monster) const;
-  [[nodiscard]] std::vector<Sight> frontier(const HeroNotes& hero) const;
+  [[nodiscard]] std::vector<Sight> frontier(const HeroNotes& hero);
   [[nodiscard]] double power(const HeroNotes& hero, const Sight& sight, const Plan& plan) const;
   [[nodiscard]] double powerWithSpells(const HeroNotes& hero, const Sight& sight) const;
   [[nodiscard]] double powerWith(const HeroNotes& hero, const Sight& sight, const Offer& offer) const;
@@ -72,6 +73,7 @@ class Judgement {
   Foresight foresight_;
   Foresight reckoning_;
   std::array<double, kOfferPlaces> taste_{};
+  int edge_ = 0;  // the first monster, of every other one, that was too strong for the hero
   double courage_ = 1;
   double care_ = 2.5;
   double temptation_ = 1;

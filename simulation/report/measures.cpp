@@ -119,7 +119,7 @@ double rewardFollowsDanger(const Knowledge& known, const Measures& measures, int
   for (int i = bounds.OdPotwora - 1; i < bounds.DoPotwora; ++i) {
     const Danger& danger = measures.monsters[static_cast<std::size_t>(i)];
     if (danger.lost.count < leastMet) continue;
-    points.push_back(std::round(pointsFor(kWarrior, known.monsters[static_cast<std::size_t>(i)])));
+    points.push_back(std::round(known.monsters[static_cast<std::size_t>(i)].points[kWarrior]));
     lost.push_back(danger.lost.value());
   }
   return points.size() < 3 ? 1 : rankCorrelation(points, lost);

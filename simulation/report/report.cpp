@@ -195,7 +195,7 @@ std::string monsterTable(const Knowledge& known, const Tallies& tallies) {
     const Tally& met = tallies.monsters[static_cast<std::size_t>(monster.number)];
     out << "| " << monster.number + 1 << " | " << monster.name << " | " << monster.count << " | " << monster.speed
         << " | " << diceText(monster.attack) << " | " << oneDigit(monster.attack.mean) << " | " << monster.life << " | "
-        << monster.armour << " | " << oneDigit(pointsFor(kWarrior, monster)) << " | "
+        << monster.armour << " | " << oneDigit(monster.points[kWarrior]) << " | "
         << (met.fights > 0 ? oneDigit(100.0 * met.deaths / met.fights) : "–") << " |\n";
   }
   return out.str();

@@ -118,7 +118,7 @@ TEST(Settler, HardensWhoPaysMoreAndHarmsLess) {
   for (int i = 0; i < 30; ++i) settler.hear(harmOf(5, kTrolls, 0.5));
   const Knowledge before(data);
   const Knowledge after(settler.data());
-  ASSERT_GT(pointsFor(kWarrior, before.monsters[kTrolls]), pointsFor(kWarrior, before.monsters[kTrolls + 1]) + 0.5);
+  ASSERT_GT(before.monsters[kTrolls].points[kWarrior], before.monsters[kTrolls + 1].points[kWarrior] + 0.5);
   EXPECT_GT(after.monsters[kTrolls].attack.plus, before.monsters[kTrolls].attack.plus);
   EXPECT_LE(after.monsters[kTrolls + 1].attack.plus, before.monsters[kTrolls + 1].attack.plus);
   EXPECT_LT(after.monsters[kTrolls + 1].life, before.monsters[kTrolls + 1].life);
