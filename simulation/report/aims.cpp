@@ -14,8 +14,6 @@ constexpr int kFirstGear = kFirstSpell + kSpells;
 constexpr int kFirstSupply = kFirstGear + kGear;
 constexpr int kClimbZones = 10;
 
-double percent(double part, double whole) { return whole > 0 ? 100 * part / whole : 0; }
-
 std::string withPercent(double value) { return oneDigit(value) + "%"; }
 
 // "43.1% (40.2–46.0)"
@@ -60,20 +58,11 @@ Aim rivalryAim(const Rivalry& rivalry) {
 }
 
 Aim zoneAim(const Tallies& tallies) {
-  double least = 100;
-  int worst = 0;
-  for (int zone = 0; zone < kClimbZones; ++zone) {
-    double best = 0;
-    for (int t = 0; t < kShownTurns; ++t) {
-      if (tallies.turns[t].fights < tallies.careers / 10) continue;
-      best = std::max(best, percent(tallies.zoneByTurn[zone][t], tallies.turns[t].fights));
-    }
-    if (best >= least) continue;
-    least = best;
-    worst = zone;
-  }
+  const auto shares = favours(tallies);
+  const auto least = std::min_element(shares.begin(), shares.end());
+  const auto& zone = kZones[static_cast<std::size_t>(least - shares.begin())];
   return {"Każda z dziesięciu kolejnych stref bywa wybierana", "≥ 5% w jakiejś turze",
-          withPercent(least) + " (" + kZones[static_cast<std::size_t>(worst)].caption + ")", least >= 5};
+          withPercent(*least) + " (" + zone.caption + ")", *least >= 5};
 }
 
 Aim mostAim(const char* text, const Share& share, double most, const char* before) {

@@ -1,5 +1,7 @@
 #include "simulation/report/tallies.h"
 
+#include <algorithm>
+
 namespace brolgan::simulation {
 
 namespace {
@@ -48,6 +50,18 @@ Tallies tally(const std::vector<GameRecord>& games) {
     if (all.bought[i] > 0) all.turnBought[i] /= all.bought[i];
   }
   return all;
+}
+
+std::array<double, kPandoria> favours(const Tallies& tallies) {
+  std::array<double, kPandoria> favours{};
+  for (int zone = 0; zone < kPandoria; ++zone) {
+    for (int t = 0; t < kShownTurns; ++t) {
+      const int fights = tallies.turns[t].fights;
+      if (fights < tallies.careers / 10) continue;
+      favours[zone] = std::max(favours[zone], 100.0 * tallies.zoneByTurn[zone][t] / std::max(1, fights));
+    }
+  }
+  return favours;
 }
 
 }  // namespace brolgan::simulation

@@ -34,4 +34,7 @@ struct Tallies {
 
 Tallies tally(const std::vector<GameRecord>& games);
 
+// How often each of the ten zones that follow one another is chosen in the turn in which most choose it, in percent.
+std::array<double, kPandoria> favours(const Tallies& tallies);
+
 }  // namespace brolgan::simulation

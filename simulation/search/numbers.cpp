@@ -3,6 +3,8 @@
 #include <array>
 #include <sstream>
 
+#include "simulation/knowledge/knowledge.h"
+
 namespace brolgan::simulation {
 
 std::vector<std::string> linesOf(const std::string& text) {
@@ -22,6 +24,11 @@ std::string textOf(const std::vector<std::string>& lines) {
 }
 
 std::size_t firstLineOf(int monster) { return static_cast<std::size_t>(1 + monster * kLinesAMonster); }
+
+std::size_t firstLineOfWeapon(int weapon) {
+  constexpr int kLinesAWeapon = 9;
+  return static_cast<std::size_t>(1 + weapon * kLinesAWeapon + (weapon >= kMelees ? 1 : 0));
+}
 
 Numbers numbersOf(const std::vector<std::string>& lines, std::size_t first) {
   const auto at = [&](std::size_t i) { return std::stoi(lines[first + i]); };

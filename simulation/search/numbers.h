@@ -19,8 +19,9 @@ struct Numbers {
 std::vector<std::string> linesOf(const std::string& text);
 std::string textOf(const std::vector<std::string>& lines);
 
-// Where the lines of a monster begin; monsters are counted from 0.
+// Where the lines of a monster or a weapon begin; both are counted from 0.
 std::size_t firstLineOf(int monster);
+std::size_t firstLineOfWeapon(int weapon);
 // The numbers that stand from that line on; raises std::invalid_argument when one is none.
 Numbers numbersOf(const std::vector<std::string>& lines, std::size_t first);
 void write(std::vector<std::string>& lines, std::size_t first, const Numbers& monster);

@@ -4,12 +4,14 @@
 #include <cmath>
 
 #include "simulation/report/tallies.h"
+#include "simulation/report/worth.h"
 
 namespace brolgan::simulation {
 
 namespace {
 
 constexpr std::uint64_t kAloneSeed = 0x4000;
+constexpr std::uint64_t kNewcomerSeed = 0x5000;
 constexpr int kThirdZone = 2;
 constexpr double kWeaponsForSale = 18;
 
@@ -68,6 +70,28 @@ Term harmlessTerm(const Knowledge& known, const Measures& all) {
   return {"harmless", count, count / 3};
 }
 
+Term favourTerm(const Tallies& tallies) {
+  double miss = 0;
+  double least = 100;
+  for (const double share : favours(tallies)) {
+    miss += under(share, 5, 5);
+    least = std::min(least, share);
+  }
+  return {"zones_chosen", least, miss};
+}
+
+Term dearTerm(const Knowledge& known, const std::vector<GameRecord>& games) {
+  constexpr int kHeroes = 100;
+  double miss = 0;
+  double least = 100;
+  for (const WeaponWorth& worth : worthOfDearWeapons(known, games, kHeroes)) {
+    const double gain = 100 * worth.gain.value();
+    miss += under(gain, 0.5, 4);
+    least = std::min(least, gain);
+  }
+  return {"dear_weapons", least, miss};
+}
+
 double endedShare(const std::vector<GameRecord>& games) {
   const auto won = std::count_if(games.begin(), games.end(), [](const GameRecord& game) { return game.winner >= 0; });
   return games.empty() ? 0 : static_cast<double>(won) / static_cast<double>(games.size());
@@ -83,11 +107,12 @@ double Score::sum() const {
 
 Sample playSample(const DataFiles& data, int games, int threads, std::uint64_t seed) {
   const Knowledge known(data);
-  const auto tableOf = [](std::uint64_t run, int players) {
-    return [run, players](int i) { return randomTable(seedOf(run, i), players, {MindKind::sensible}); };
+  const auto play = [&](std::uint64_t run, int count, int players, MindKind mind) {
+    const auto table = [=](int i) { return randomTable(seedOf(run, i), players, {mind}); };
+    return playGames(data, known, count, threads, table);
   };
-  return {playGames(data, known, games, threads, tableOf(seed, 4)),
-          playGames(data, known, games, threads, tableOf(seed + kAloneSeed, 1))};
+  return {play(seed, games, 4, MindKind::sensible), play(seed + kAloneSeed, games, 1, MindKind::sensible),
+          play(seed + kNewcomerSeed, games / 4, 4, MindKind::newcomer)};
 }
 
 Score scoreOf(const DataFiles& data, const Sample& sample) {
@@ -106,6 +131,8 @@ Score scoreOf(const DataFiles& data, const Sample& sample) {
   const double early = 2000.0 * tallies.earlyThrones / std::max(1, tallies.allTurns);
   const double first =
       percent(tallies.turns[0].fights > 0 ? 1.0 * tallies.turns[0].deaths / tallies.turns[0].fights : 0);
+  const double finished = percent(endedShare(sample.newcomers));
+  const int newcomersMedian = quantile(winningTurns(sample.newcomers), 0.5);
   Score score;
   score.terms = {{"one_round", oneRound, above(oneRound, 40, 10)},
                  {"costless", costless, above(costless, 45, 10)},
@@ -122,6 +149,10 @@ Score scoreOf(const DataFiles& data, const Sample& sample) {
                  classTerm(sample.games),
                  purchaseTerm(tallies),
                  harmlessTerm(known, all),
+                 favourTerm(tallies),
+                 dearTerm(known, sample.games),
+                 {"newcomers_ended", finished, under(finished, 60, 20)},
+                 {"newcomers_median", static_cast<double>(newcomersMedian), above(newcomersMedian, 40, 4)},
                  {"early_thrones", early, above(early, 1, 1)},
                  {"first_deaths", first, above(first, 5, 2)}};
   return score;

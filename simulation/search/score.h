@@ -21,10 +21,11 @@ struct Score {
   [[nodiscard]] double sum() const;
 };
 
-// The games that a score is drawn from: four sensible players, and one who plays alone.
+// The games that a score is drawn from: four sensible players, one who plays alone, and four newcomers.
 struct Sample {
   std::vector<GameRecord> games;
   std::vector<GameRecord> alone;
+  std::vector<GameRecord> newcomers;
 };
 
 Sample playSample(const DataFiles& data, int games, int threads, std::uint64_t seed);

@@ -4,6 +4,8 @@
 //   search run      throws, plays, ranks; one line a generation into FOLDER/search.csv
 //   search try      plays one shape, told as NAME=VALUE, and prints its score
 //   search settle   moves the monsters one by one; writes the best data files into FOLDER
+//   search climb    moves single numbers, keeps what helps; goes on from the data files in FOLDER; one line
+//                   for each change taken into FOLDER/climb.csv
 //   search write    writes the data files of a shape into FOLDER
 #include <algorithm>
 #include <cstdlib>
@@ -19,6 +21,7 @@
 
 #include "simulation/options.h"
 #include "simulation/report/tallies.h"
+#include "simulation/search/climb.h"
 #include "simulation/search/cma_es.h"
 #include "simulation/search/score.h"
 #include "simulation/search/settle.h"
@@ -31,7 +34,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kUsage =
-    "search run|try|settle|write [NAME=VALUE...] [--games N] [--generations G] [--seed S] [--threads T]\n"
+    "search run|try|settle|climb|write [NAME=VALUE...] [--games N] [--generations G] [--seed S] [--threads T]\n"
     "       [--data FOLDER] [--results FOLDER] [--dials NAME,NAME...]\n"
     "A dial is meant by its name or the beginning of it; those not meant stay where they are told.\n";
 // The games that confirm a mean are none of those that chose it.
@@ -229,6 +232,37 @@ void settle(const Setup& setup) {
   }
 }
 
+// A line of the log of a climb: after how many steps, and what the numbers come to on games held out.
+void noteClimb(const fs::path& log, int step, const Score& heldOut) {
+  const bool fresh = !fs::exists(log);
+  std::ofstream out(log, std::ios::app);
+  if (fresh) {
+    out << "step";
+    for (const Term& term : heldOut.terms) out << ',' << term.name;
+    out << ",score\n";
+  }
+  out << step;
+  for (const Term& term : heldOut.terms) out << ',' << term.found;
+  out << ',' << heldOut.sum() << std::endl;
+}
+
+void climb(const Setup& setup) {
+  const bool begun = fs::exists(setup.results / "monsters.cfg");
+  const DataFiles start = begun ? loadData(setup.results.string()) : shaped(setup.data, setup.start);
+  const auto scored = [&](const DataFiles& data, std::uint64_t seed) {
+    return scoreOf(data, playSample(data, setup.games, setup.threads, seed));
+  };
+  Climber climber(start, setup.seed,
+                  [&](const DataFiles& data, std::uint64_t seed) { return scored(data, seed).sum(); });
+  for (int step = 1; step <= setup.generations; ++step) {
+    const bool taken = climber.step();
+    std::cerr << "step " << step << ": score " << climber.score() << (taken ? ", taken" : "") << std::endl;
+    if (!taken) continue;
+    writeFiles(climber.data(), setup.results);
+    noteClimb(setup.results / "climb.csv", step, scored(climber.data(), setup.seed + kHeldOut));
+  }
+}
+
 void act(const Options& options) {
   if (options.words.empty()) throw std::invalid_argument(kUsage);
   Setup setup;
@@ -246,6 +280,8 @@ void act(const Options& options) {
     tryOut(setup);
   } else if (options.words[0] == "settle") {
     settle(setup);
+  } else if (options.words[0] == "climb") {
+    climb(setup);
   } else if (options.words[0] == "write") {
     writeFiles(shaped(setup.data, setup.start), setup.results);
   } else {

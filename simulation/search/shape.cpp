@@ -30,7 +30,6 @@ constexpr std::size_t kSpeedDial = 23;
 constexpr std::size_t kDamageDial = 24;
 constexpr std::size_t kPriceDial = 42;
 
-constexpr int kLinesAWeapon = 9;
 constexpr int kUntouched = 3;
 constexpr int kCourt = 41;  // the first of the king's court, counted from 0
 constexpr int kEnd = kMonsters - 1;
@@ -38,8 +37,8 @@ constexpr int kLargestGroup = 12;
 constexpr int kMostFaces = 61;
 
 // The weapons for sale, in their order, and the dearest of them.
-constexpr std::array<std::size_t, 18> kSold = {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13, 14, 15, 16, 17, 18, 19};
-constexpr std::array<std::size_t, 4> kDearest = {4, 9, 18, 19};
+constexpr std::array<int, 18> kSold = {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13, 14, 15, 16, 17, 18, 19};
+constexpr std::array<int, 4> kDearest = {4, 9, 18, 19};
 
 constexpr std::array<double, 5> kFiveBands = {3, 12, 22, 31, 40};
 constexpr std::array<double, 3> kThreeBands = {12, 26, 40};
@@ -137,17 +136,16 @@ std::string shapedMonsters(const std::string& text, const Shape& shape) {
   return textOf(lines);
 }
 
-// Where a weapon's lines begin.
-std::size_t firstLine(std::size_t weapon) { return 1 + weapon * kLinesAWeapon + (weapon >= kMelees ? 1 : 0); }
-
 void raise(std::string& number, double by, int least) {
   number = std::to_string(std::max(least, whole(std::stoi(number) + by)));
 }
 
 std::string shapedWeapons(const std::string& text, const Shape& shape) {
   auto lines = linesOf(text);
-  for (std::size_t i = 0; i < kSold.size(); ++i) raise(lines[firstLine(kSold[i]) + 5], shape[kDamageDial + i], 0);
-  for (std::size_t i = 0; i < kDearest.size(); ++i) raise(lines[firstLine(kDearest[i]) + 8], shape[kPriceDial + i], 1);
+  for (std::size_t i = 0; i < kSold.size(); ++i)
+    raise(lines[firstLineOfWeapon(kSold[i]) + 5], shape[kDamageDial + i], 0);
+  for (std::size_t i = 0; i < kDearest.size(); ++i)
+    raise(lines[firstLineOfWeapon(kDearest[i]) + 8], shape[kPriceDial + i], 1);
   return textOf(lines);
 }
 

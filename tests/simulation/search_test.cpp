@@ -3,10 +3,14 @@
 
 #include <sstream>
 #include <stdexcept>
+#include <string>
 #include <vector>
 
 #include "simulation/knowledge/knowledge.h"
+#include "simulation/search/climb.h"
 #include "simulation/search/cma_es.h"
+#include "simulation/search/numbers.h"
+#include "simulation/search/score.h"
 #include "simulation/search/settle.h"
 #include "simulation/search/shape.h"
 
@@ -135,6 +139,99 @@ TEST(Settler, LeavesTheFirstThreeAndTheCourtAlone) {
     EXPECT_EQ(after.monsters[i].life, before.monsters[i].life);
     EXPECT_EQ(after.monsters[i].speed, before.monsters[i].speed);
   }
+}
+
+// How much endurance all monsters have together.
+double lifeOf(const DataFiles& data) {
+  const Knowledge known(data);
+  double sum = 0;
+  for (const Monster& monster : known.monsters) sum += monster.life;
+  return sum;
+}
+
+TEST(Climber, TakesOnlyWhatIsNearerToItsAim) {
+  int judged = 0;
+  Climber climber(loadData(BROLGAN_ASSETS), 3, [&judged](const DataFiles& data, std::uint64_t) {
+    ++judged;
+    return lifeOf(data) / 10;
+  });
+  int taken = 0;
+  for (int i = 0; i < 40; ++i) {
+    const double before = climber.score();
+    if (climber.step()) {
+      ++taken;
+      EXPECT_LT(climber.score(), before);
+      EXPECT_DOUBLE_EQ(climber.score(), lifeOf(climber.data()) / 10);
+    } else {
+      EXPECT_DOUBLE_EQ(climber.score(), before);
+    }
+  }
+  EXPECT_GT(taken, 3);
+  EXPECT_LT(taken, 37);
+  EXPECT_LT(lifeOf(climber.data()), lifeOf(loadData(BROLGAN_ASSETS)));
+}
+
+TEST(Climber, JudgesAChangeByTheGamesOfWhatStands) {
+  std::vector<std::uint64_t> seeds;
+  Climber climber(loadData(BROLGAN_ASSETS), 3, [&seeds](const DataFiles&, std::uint64_t seed) {
+    seeds.push_back(seed);
+    return 1.0;
+  });
+  const std::vector<std::uint64_t> first = seeds;
+  EXPECT_FALSE(climber.step());
+  for (std::size_t i = first.size(); i < seeds.size(); ++i) EXPECT_EQ(seeds[i], first[i - first.size()]);
+  for (int i = 0; i < 60; ++i) climber.step();
+  EXPECT_NE(seeds.back(), first.front());
+}
+
+// The lines of one monster.
+std::vector<std::string> linesFrom(const DataFiles& data, std::size_t first) {
+  const auto lines = linesOf(data.monsters);
+  const auto start = lines.begin() + static_cast<std::ptrdiff_t>(first);
+  return {start, start + kLinesAMonster};
+}
+
+TEST(Climber, MovesNothingOfTheFirstEveningNorNamesNorDice) {
+  const DataFiles data = loadData(BROLGAN_ASSETS);
+  const Knowledge before(data);
+  std::uint64_t state = 5;
+  DataFiles moved = data;
+  for (int i = 0; i < 300; ++i) moved = nudged(moved, state);
+  const Knowledge after(moved);
+  for (std::size_t i = 0; i < before.monsters.size(); ++i) {
+    const Monster& one = after.monsters[i];
+    EXPECT_EQ(one.name, before.monsters[i].name);
+    EXPECT_EQ(one.count, before.monsters[i].count);
+    EXPECT_EQ(one.attack.high % 2, before.monsters[i].attack.high % 2) << one.name;
+    EXPECT_GE(one.life, 1);
+    EXPECT_GE(one.attack.plus, 0);
+  }
+  for (std::size_t i = 0; i < kWeapons; ++i) EXPECT_EQ(after.weapons[i].name, before.weapons[i].name);
+  for (std::size_t i = 0; i < 5; ++i) {
+    const auto numbers = [i](const DataFiles& files) { return linesFrom(files, firstLineOf(static_cast<int>(i))); };
+    EXPECT_EQ(numbers(moved), numbers(data)) << i;
+  }
+  for (const int start : {0, kMelees}) {
+    EXPECT_EQ(after.weapons[start].damage.mean, before.weapons[start].damage.mean);
+    EXPECT_EQ(after.weapons[start].price, before.weapons[start].price);
+  }
+}
+
+double foundOf(const Score& score, const std::string& name) {
+  for (const Term& term : score.terms) {
+    if (term.name == name) return term.found;
+  }
+  throw std::out_of_range(name);
+}
+
+TEST(Score, HearsOfEveryAimThatGamesCanMiss) {
+  const DataFiles data = loadData(BROLGAN_ASSETS);
+  const Score score = scoreOf(data, playSample(data, 8, 1, 4));
+  EXPECT_GT(foundOf(score, "newcomers_median"), 0);
+  EXPECT_GT(foundOf(score, "newcomers_ended"), 0);
+  EXPECT_LT(foundOf(score, "zones_chosen"), 100);
+  EXPECT_LT(foundOf(score, "dear_weapons"), 100);
+  EXPECT_GT(score.sum(), 0);
 }
 
 TEST(Search, KnowsItsDialsByName) { EXPECT_THROW(dialNamed("luck"), std::out_of_range); }
