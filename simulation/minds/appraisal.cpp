@@ -17,10 +17,12 @@ double lastingShare(const Offer& offer) {
   return offer.index == kGrenade ? 0.25 : 0.5;
 }
 
-// How well a hero would stand: likely to win, and with little harm.
+// How well a hero would stand: likely to win, and with little harm. Magic that could have healed is endurance too.
 double strength(const HeroNotes& hero, const Outlook& outlook) {
+  constexpr double kHealedByMagic = 2.5;
   const double endurance = std::max(1, hero.endurance);
-  return outlook.win + endurance / (endurance + std::max(0.0, outlook.harm));
+  const double spent = hero.spells[kHealing] ? kHealedByMagic * std::max(0.0, hero.magic - outlook.magicLeft) : 0;
+  return outlook.win + endurance / (endurance + std::max(0.0, outlook.harm + spent));
 }
 
 // A new weapon will be practised too, if never quite as well as the old one.

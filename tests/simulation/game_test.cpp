@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include "flow/starter.h"
 #include "simulation/games/batch.h"
 #include "simulation/minds/judgement.h"
+#include "simulation/minds/newcomer_mind.h"
 #include "simulation/search/shape.h"
 
 namespace brolgan::simulation {
@@ -58,6 +60,57 @@ TEST(Game, OfASinglePlayerEndsWithHisLastLifeOrTheLastMonster) {
     const GameRecord game = playGame(data, known, setup);
     EXPECT_TRUE(game.winner == 0 || game.seats[0].out);
   }
+}
+
+// A newcomer who stands in his first shop and hears how fights went that he never fought.
+class Newcomer : public testing::Test {
+ protected:
+  void SetUp() override {
+    stage.runtime.Show(Starter::kName);
+    SetUpScreen(stage.runtime).create(0);
+    CreationScreen creation(stage.runtime);
+    creation.setName("Gracz1");
+    mind.create(creation);
+    creation.save();
+    SetUpScreen(stage.runtime).start();
+  }
+
+  int zoneAfter(bool won) {
+    mind.hearOutcome(won);
+    return zone();
+  }
+
+  int zone() {
+    ShopScreen shop(stage.runtime);
+    return mind.shop(shop);
+  }
+
+  DataFiles data = loadData(BROLGAN_ASSETS);
+  Knowledge known{data};
+  Stage stage{data, 1};
+  NewcomerMind mind{known, kWarrior, 1};
+};
+
+TEST_F(Newcomer, GoesOneZoneOnAfterAnEasyFightAndOneBackAfterALostOne) {
+  EXPECT_EQ(zone(), 0);
+  EXPECT_EQ(zoneAfter(true), 1);
+  EXPECT_EQ(zoneAfter(true), 2);
+  EXPECT_EQ(zoneAfter(false), 1);
+}
+
+TEST_F(Newcomer, NeedsTwoEasyFightsInARowOnceHeHasLostALife) {
+  for (const int zone : {1, 2, 3}) EXPECT_EQ(zoneAfter(true), zone);
+  EXPECT_EQ(zoneAfter(false), 2);
+  EXPECT_EQ(zoneAfter(true), 2);
+  EXPECT_EQ(zoneAfter(true), 3);
+  EXPECT_EQ(zoneAfter(true), 3);
+  EXPECT_EQ(zoneAfter(true), 4);
+}
+
+TEST_F(Newcomer, NeedsTwoEasyFightsInARowBeforeTheThrone) {
+  for (int zone = 1; zone <= 9; ++zone) EXPECT_EQ(zoneAfter(true), zone);
+  EXPECT_EQ(zoneAfter(true), 9);
+  EXPECT_EQ(zoneAfter(true), kThroneZone);
 }
 
 TEST(Temper, OfTheGamblerIsBolderThanThatOfAnySensiblePlayer) {
