@@ -17,7 +17,7 @@ constexpr std::array kSteps = {kEndurance, kArmour,    kModifier, kEndurance, kA
                                kSpeed,     kEndurance, kArmour,   kPower,     kRegeneration};
 // A fight that took less of what he had felt easy; one that took more hurt.
 constexpr double kEasy = 0.6;
-constexpr double kHurt = 0.85;
+constexpr double kHurt = 0.9;
 // Easy fights in a row that take him one zone on once he has lost a life, or when the throne is next.
 constexpr int kSure = 2;
 // A weapon that costs little more than his own does not sound stronger.

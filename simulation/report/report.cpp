@@ -145,10 +145,10 @@ void writePlots(const fs::path& folder, const Knowledge& known, const Study& stu
 
 const char* const kBefore =
     "\n„Było” to pierwsze liczby w rękach pierwszych graczy. Dzisiejsi rozsądni są śmielsi i nie gromadzą punktów, a\n"
-    "nowicjusz kupuje więcej wcieleń, więc część różnicy to oni. Liczby sprzed ostatniego strojenia dawały "
-    "dzisiejszym\n"
-    "rozsądnym (600 partii): w jednej rundzie 36.9%, bez kosztów 35.7%, zwycięstwo w turach 18–30 74.9%, najczęstsza\n"
-    "strefa 23.4%, korelacja nagrody od -0.8, „Pandoria” wygrana w 86.7%, cztery potwory niegroźne.\n";
+    "nowicjusz kupuje więcej wcieleń, więc część różnicy to oni. Liczby sprzed ostatniego strojenia, z „Królem”\n"
+    "przedostatnim na liście, dawały dzisiejszym rozsądnym (600 partii): w jednej rundzie 39.0%, bez kosztów 40.3%,\n"
+    "zwycięstwo w turach 18–30 82.7%, Ryzykant 22.5% zwycięstw, samotnik kończy w 92.0%, „Pandoria” płaci 93.7%,\n"
+    "najrzadziej wybierana strefa 3.5%, najsłabsza droga broń -0.9 pkt. proc.\n";
 
 std::string aimTable(const std::vector<Aim>& aims) {
   std::ostringstream out;
@@ -250,12 +250,18 @@ const char* const kSearch =
     "ostrożniejsi; od zestawu 100 potwory przesuwano pojedynczo (`simulation/search.sh settle`): w każdej strefie,\n"
     "kto płaci więcej, robił się groźniejszy, a strefa zbyt oblegana albo zbyt bezpieczna trudniejsza. Między\n"
     "kolejnymi seriami, jak przed zestawem 156, zmieniano ręcznie to, co wyszło źle: tam skrócono życie potworów\n"
-    "i ułatwiono początek.\n"
+    "i ułatwiono początek. Na koniec ruszano po kilka pojedynczych liczb (`simulation/search.sh climb`): zmiana\n"
+    "zostawała, gdy w trzech seriach partii była bliżej celów. Co zostało, stoi we\n"
+    "[wspinaczka.csv](balans/wspinaczka.csv), z wynikiem w partiach, które o niczym nie rozstrzygały.\n"
     "Pomogły: jedna szeroka kość zamiast stałego dodatku (śmierć zdarza się, choć zwykła walka kosztuje mało), od\n"
     "ósmej strefy grupy z większym dodatkiem niż samotnicy obok, nagrody tuż nad połówką punktu, „Król” o mniejszym\n"
-    "pancerzu. Nie pomogły: wyższe ceny najlepszych broni i niższy pancerz końcówki, jeśli miały utemperować\n"
-    "Berserkera i Ryzykanta. Przy wspólnym stole śmielszy rozsądny wygrał z dawnym, ostrożniejszym, 483 partie do\n"
-    "516, czyli żadnej różnicy nie dowiedziono (45–51%); ginie za to dwa razy częściej.\n";
+    "pancerzu i na końcu listy, gdzie spotyka się go rzadziej, słabszy dwór, ogień przenoszony przez UltiGun.\n"
+    "Nie pomogły wyższe ceny najlepszych broni i niższy pancerz końcówki, jeśli miały utemperować Berserkera\n"
+    "i Ryzykanta. Czego jeszcze próbowano, by wyrównać klasy, pokazuje [klasy-proby.csv](balans/klasy-proby.csv),\n"
+    "po jednej zmianie w wierszu: Ryzykant zostaje ponad piętnastoma na sto, Strzelec i Czarownik poniżej sześciu,\n"
+    "a gdzie Berserker mieści się między nimi, psuje się długość partii. Przy wspólnym stole śmielszy rozsądny\n"
+    "wygrał z dawnym, ostrożniejszym, 483 partie do 516, czyli żadnej różnicy nie dowiedziono (45–51%); ginie za to\n"
+    "dwa razy częściej.\n";
 
 // What a dear weapon adds to the chance to win.
 std::string dearTable(const Knowledge& known, const Study& study) {
