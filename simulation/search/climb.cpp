@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "simulation/knowledge/knowledge.h"
+#include "simulation/report/worth.h"
 #include "simulation/search/numbers.h"
 
 namespace brolgan::simulation {
@@ -16,7 +17,6 @@ namespace brolgan::simulation {
 namespace {
 
 constexpr int kFirst = 5;  // the monsters before it are left to the first evening
-constexpr int kCourt = 41;
 constexpr int kBand = 6;
 constexpr std::size_t kPlusLine = 5;
 constexpr std::size_t kPriceLine = 8;
@@ -112,7 +112,6 @@ class Nudge {
   }
 
   void moveWeapon() {
-    constexpr int kDearPrice = 7;
     int weapon = 1 + chance_.below(kWeapons - 2);
     if (weapon >= kMelees) ++weapon;
     const std::size_t first = firstLineOfWeapon(weapon);

@@ -1,6 +1,6 @@
 // Climbs over single numbers of the data files, where dials that turn many at once are too coarse: some
-// numbers are moved by a little, and the change stays when games that had no part in proposing it are nearer
-// to the aims. Both are judged by the same games; now and then those are changed for others.
+// numbers are moved by a little, and the change stays when three rounds of games are clearly nearer to the aims.
+// What stands and what is proposed are judged by the same games; now and then those are changed for others.
 #pragma once
 
 #include <cstdint>

@@ -7,6 +7,8 @@
 namespace brolgan::simulation {
 
 inline constexpr int kLinesAMonster = 10;
+// The first of the king's court, counted from 0.
+inline constexpr int kCourt = 41;
 
 // One monster's numbers, in the order of its lines.
 struct Numbers {

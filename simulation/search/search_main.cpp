@@ -246,20 +246,29 @@ void noteClimb(const fs::path& log, int step, const Score& heldOut) {
   out << ',' << heldOut.sum() << std::endl;
 }
 
+std::uint64_t linesIn(const fs::path& path) {
+  std::ifstream in(path);
+  std::uint64_t lines = 0;
+  for (std::string line; std::getline(in, line);) ++lines;
+  return lines;
+}
+
+// A climb that goes on proposes other changes and plays other games than the one that was stopped.
 void climb(const Setup& setup) {
+  const fs::path log = setup.results / "climb.csv";
   const bool begun = fs::exists(setup.results / "monsters.cfg");
   const DataFiles start = begun ? loadData(setup.results.string()) : shaped(setup.data, setup.start);
   const auto scored = [&](const DataFiles& data, std::uint64_t seed) {
     return scoreOf(data, playSample(data, setup.games, setup.threads, seed));
   };
-  Climber climber(start, setup.seed,
+  Climber climber(start, setup.seed + linesIn(log),
                   [&](const DataFiles& data, std::uint64_t seed) { return scored(data, seed).sum(); });
   for (int step = 1; step <= setup.generations; ++step) {
     const bool taken = climber.step();
     std::cerr << "step " << step << ": score " << climber.score() << (taken ? ", taken" : "") << std::endl;
     if (!taken) continue;
     writeFiles(climber.data(), setup.results);
-    noteClimb(setup.results / "climb.csv", step, scored(climber.data(), setup.seed + kHeldOut));
+    noteClimb(log, step, scored(climber.data(), setup.seed + kHeldOut));
   }
 }
 

@@ -10,7 +10,6 @@ namespace brolgan::simulation {
 namespace {
 
 constexpr int kFirst = 3;
-constexpr int kCourt = 41;
 constexpr int kClimbed = 10;  // zones that follow one another
 constexpr int kThirdZone = 2;
 constexpr int kLeastMet = 15;

@@ -31,7 +31,6 @@ constexpr std::size_t kDamageDial = 24;
 constexpr std::size_t kPriceDial = 42;
 
 constexpr int kUntouched = 3;
-constexpr int kCourt = 41;  // the first of the king's court, counted from 0
 constexpr int kEnd = kMonsters - 1;
 constexpr int kLargestGroup = 12;
 constexpr int kMostFaces = 61;
