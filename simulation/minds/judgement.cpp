@@ -94,9 +94,9 @@ HeroNotes onAnOrdinaryDay(HeroNotes hero) {
 
 // By the number of rivals. Trials at one table showed that a bolder player wins about as often as a careful one.
 Temper sensible(int rivals) {
-  constexpr std::array kCourage = {1.1, 1.3, 2.5, 6.0};
+  constexpr std::array kCourage = {1.1, 1.3, 2.5, 27.0};
   constexpr std::array kCare = {2.5, 2.5, 1.4, 0.6};
-  constexpr double kTemptation = 0.27;
+  constexpr double kTemptation = 0.55;
   constexpr int kMood = 4;
   const auto table = static_cast<std::size_t>(rivals);
   return {kCourage.at(table), kCare.at(table), kTemptation, kMood};

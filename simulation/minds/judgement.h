@@ -36,7 +36,7 @@ struct Temper {
 };
 // A sensible player hurries when others may be there before him, and takes his time alone.
 Temper sensible(int rivals);
-inline constexpr Temper kDaredevil = {12, 0.3, 0.15, 2};
+inline constexpr Temper kDaredevil = {60, 0.3, 0.15, 2};
 
 class Judgement {
  public:

@@ -145,10 +145,10 @@ void writePlots(const fs::path& folder, const Knowledge& known, const Study& stu
 
 const char* const kBefore =
     "\n„Było” to pierwsze liczby w rękach pierwszych graczy. Dzisiejsi rozsądni są śmielsi i nie gromadzą punktów, a\n"
-    "nowicjusz kupuje więcej wcieleń, więc część różnicy to oni. Liczby sprzed ostatniego strojenia, z „Królem”\n"
-    "przedostatnim na liście, dawały dzisiejszym rozsądnym (600 partii): w jednej rundzie 39.0%, bez kosztów 40.3%,\n"
-    "zwycięstwo w turach 18–30 82.7%, Ryzykant 22.5% zwycięstw, samotnik kończy w 92.0%, „Pandoria” płaci 93.7%,\n"
-    "najrzadziej wybierana strefa 3.5%, najsłabsza droga broń -0.9 pkt. proc.\n";
+    "nowicjusz kupuje więcej wcieleń, więc część różnicy to oni. Liczby sprzed ostatniego strojenia, z mocniejszą\n"
+    "bronią białą i samotnikami zamiast grup na dworze „Króla”, dawały dzisiejszym rozsądnym (600 partii): w jednej\n"
+    "rundzie 38.9%, bez kosztów 36.0%, zwycięstwo w turach 18–30 80.8%, Berserker 19.3% zwycięstw, jedna strefa\n"
+    "18.9% tur, „Pandoria” płaci 94.7%, wczesny „Tron” 1.3 walki na 2000.\n";
 
 std::string aimTable(const std::vector<Aim>& aims) {
   std::ostringstream out;
@@ -220,7 +220,7 @@ const char* const kIntroduction =
     "gdy bolało (dwie, gdy zostało mu mniej niż pół wytrzymałości); kto stracił wcielenie albo stoi przed „Tronem\n"
     "Królów”, rusza dalej dopiero po dwóch łatwych walkach z rzędu. **Chciwy** rozgrywa każdą walkę w głowie, nim ją\n"
     "wybierze. **Hazardzista** ciągnie do „Pandorii” i do „Tronu Królów”, nim przyjdzie pora. Rozsądny waży się na\n"
-    "tym więcej, im więcej ma rywali: w czwórkę rany liczy mało, a śmierć, po której zostaje zapas, parę razy więcej.\n"
+    "tym więcej, im więcej ma rywali: w czwórkę rany liczy mało, a śmierć, po której zostaje zapas, jeszcze mniej.\n"
     "Samotny odwleka „Tron” najdłużej, a partia, która po 60 turach trwa, liczy się jako nierozstrzygnięta.\n\n"
     "W nawiasach stoją przedziały, w których z ufnością 95% leży prawdziwa wartość.\n\n";
 
@@ -258,10 +258,16 @@ const char* const kSearch =
     "pancerzu i na końcu listy, gdzie spotyka się go rzadziej, słabszy dwór, ogień przenoszony przez UltiGun.\n"
     "Nie pomogły wyższe ceny najlepszych broni i niższy pancerz końcówki, jeśli miały utemperować Berserkera\n"
     "i Ryzykanta. Czego jeszcze próbowano, by wyrównać klasy, pokazuje [klasy-proby.csv](balans/klasy-proby.csv),\n"
-    "po jednej zmianie w wierszu: Ryzykant zostaje ponad piętnastoma na sto, Strzelec i Czarownik poniżej sześciu,\n"
-    "a gdzie Berserker mieści się między nimi, psuje się długość partii. Przy wspólnym stole śmielszy rozsądny\n"
-    "wygrał z dawnym, ostrożniejszym, 483 partie do 516, czyli żadnej różnicy nie dowiedziono (45–51%); ginie za to\n"
-    "dwa razy częściej.\n";
+    "po jednej zmianie w wierszu, jeszcze z poprzednimi liczbami i ostrożniejszymi graczami: Ryzykant zostaje ponad\n"
+    "piętnastoma na sto, Strzelec i Czarownik poniżej sześciu.\n\n"
+    "Ostatnie zmiany wybrano ręcznie: z dwustu losowych zestawów, po 300 partii każdy, policzono, co która liczba\n"
+    "porusza, a potem próbowano po kilka naraz. Słabsze ostrza, mocniejsze działa i grupy na dworze „Króla”\n"
+    "sprowadziły Berserkera między innych, za cenę długości: partie częściej kończą się przed turą 18 i po 30.\n"
+    "O klasach rozstrzyga czasem jeden próg: „Kikimora z Magla” o pancerzu 4 zamiast 3 zostawia Wojownikowi trzy\n"
+    "zwycięstwa na sto, a Strzelcowi daje siedem i pół.\n\n"
+    "Śmierci przybyło razem ze śmiałością: przy wspólnym stole gracze, dla których stracone wcielenie\n"
+    "waży dwadzieścia pięć razy mniej, wygrali 736 partii, a sześć razy mniej, 762, czyli żadnej różnicy nie\n"
+    "dowiedziono (47–52%); giną za to prawie dwa razy częściej.\n";
 
 // What a dear weapon adds to the chance to win.
 std::string dearTable(const Knowledge& known, const Study& study) {

@@ -43,12 +43,20 @@ Term rankTerm(const Knowledge& known, const Measures& all) {
   return {"reward_follows_danger", least, miss};
 }
 
+// Eight of the ten are to lie in range; the two that are farthest from it count little.
 Term classTerm(const std::vector<GameRecord>& games) {
-  double miss = 0;
+  constexpr std::size_t kSpared = 2;
+  constexpr double kSparedWeight = 0.2;
+  std::vector<double> misses;
   double most = 0;
   for (const double share : classShares(games)) {
-    miss += outside(100 * share, 6, 15, 10) / 3;
+    misses.push_back(outside(100 * share, 6, 15, 10) / 3);
     most = std::max(most, 100 * share);
+  }
+  std::sort(misses.begin(), misses.end());
+  double miss = 0;
+  for (std::size_t i = 0; i < misses.size(); ++i) {
+    miss += misses[i] * (i + kSpared < misses.size() ? 1 : kSparedWeight);
   }
   return {"classes", most, miss};
 }
@@ -111,7 +119,7 @@ Sample playSample(const DataFiles& data, int games, int threads, std::uint64_t s
     const auto table = [=](int i) { return randomTable(seedOf(run, i), players, {mind}); };
     return playGames(data, known, count, threads, table);
   };
-  return {play(seed, games, 4, MindKind::sensible), play(seed + kAloneSeed, games, 1, MindKind::sensible),
+  return {play(seed, games, 4, MindKind::sensible), play(seed + kAloneSeed, games / 4, 1, MindKind::sensible),
           play(seed + kNewcomerSeed, games / 4, 4, MindKind::newcomer)};
 }
 

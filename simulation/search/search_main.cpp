@@ -21,6 +21,7 @@
 
 #include "simulation/options.h"
 #include "simulation/report/tallies.h"
+#include "simulation/report/worth.h"
 #include "simulation/search/climb.h"
 #include "simulation/search/cma_es.h"
 #include "simulation/search/score.h"
@@ -104,12 +105,18 @@ void print(const Score& score) {
 }
 
 // What a zone was like: how often it was chosen, and what became of those who went there.
-void printZones(const Measures& all) {
-  std::cout << "zone\tof turns\tdeaths\tone round\tlost\tarmour\n";
+void printZones(const Knowledge& known, const Measures& all, const Tallies& tallies) {
+  const auto chosen = favours(tallies);
+  std::cout << "zone\tof turns\tdeaths\tone round\tlost\tarmour\tranks\tfavour\n";
   for (const Danger& zone : all.zones) {
     std::cout << &zone - all.zones.data() + 1 << '\t' << 100 * zone.deaths.whole / all.oneRound.whole << '\t'
               << 100 * zone.deaths.value() << '\t' << 100 * zone.oneRound.value() << '\t' << zone.lost.value() << '\t'
-              << all.usualArmour[static_cast<std::size_t>(&zone - all.zones.data())] << '\n';
+              << all.usualArmour[static_cast<std::size_t>(&zone - all.zones.data())];
+    const auto place = static_cast<int>(&zone - all.zones.data());
+    if (place < kPandoria) {
+      std::cout << '\t' << rewardFollowsDanger(known, all, place) << '\t' << chosen[static_cast<std::size_t>(place)];
+    }
+    std::cout << '\n';
   }
 }
 
@@ -124,8 +131,7 @@ void printMonsters(const Measures& all) {
 }
 
 // Which weapons were bought, and which classes won.
-void printCareers(const Knowledge& known, const Sample& sample) {
-  const Tallies tallies = tally(sample.games);
+void printCareers(const Knowledge& known, const Sample& sample, const Tallies& tallies) {
   std::cout << "weapon\tbought\n";
   for (int i = 0; i < kWeapons; ++i) {
     std::cout << known.weapons[static_cast<std::size_t>(i)].name << '\t'
@@ -138,14 +144,37 @@ void printCareers(const Knowledge& known, const Sample& sample) {
   }
 }
 
+// How many of a hundred won games end too soon and too late.
+void printLengths(const std::vector<GameRecord>& games) {
+  const auto turns = winningTurns(games);
+  const auto won = static_cast<double>(turns.size());
+  const auto share = [&](auto isSuch) {
+    return 100 * static_cast<double>(std::count_if(turns.begin(), turns.end(), isSuch)) / won;
+  };
+  std::cout << "length\tshare\nsoon\t" << share([](int turn) { return turn < 18; }) << "\nlate\t"
+            << share([](int turn) { return turn > 30; }) << '\n';
+}
+
+void printDear(const Knowledge& known, const std::vector<GameRecord>& games) {
+  constexpr int kHeroes = 100;
+  std::cout << "dear\tgain\n";
+  for (const auto& worth : worthOfDearWeapons(known, games, kHeroes)) {
+    std::cout << known.weapons[static_cast<std::size_t>(worth.weapon)].name << '\t' << 100 * worth.gain.value() << '\n';
+  }
+}
+
 void tryOut(const Setup& setup) {
   const DataFiles data = shaped(setup.data, setup.start);
   const Sample sample = playSample(data, setup.games, setup.threads, setup.seed);
   print(scoreOf(data, sample));
   const Measures all = measure(sample.games);
-  printZones(all);
+  const Knowledge known(data);
+  const Tallies tallies = tally(sample.games);
+  printZones(known, all, tallies);
   printMonsters(all);
-  printCareers(Knowledge(data), sample);
+  printCareers(known, sample, tallies);
+  printLengths(sample.games);
+  printDear(known, sample.games);
   for (const int monster : harmlessMonsters(Knowledge(data), all)) std::cout << "harmless: " << monster + 1 << '\n';
 }
 

@@ -1,6 +1,8 @@
 // The search: its method, and the numbers that it turns.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -232,6 +234,36 @@ TEST(Score, HearsOfEveryAimThatGamesCanMiss) {
   EXPECT_LT(foundOf(score, "zones_chosen"), 100);
   EXPECT_LT(foundOf(score, "dear_weapons"), 100);
   EXPECT_GT(score.sum(), 0);
+}
+
+// Games of ten seats, one for each class, of which each class wins as many as it is told.
+Sample gamesWonBy(const std::array<int, kClasses>& wins) {
+  Sample sample;
+  for (int klasa = 0; klasa < kClasses; ++klasa) {
+    for (int i = 0; i < wins[static_cast<std::size_t>(klasa)]; ++i) {
+      GameRecord game;
+      for (int seat = 0; seat < kClasses; ++seat) game.seats.push_back({.seat = {.klasa = seat}});
+      game.winner = klasa;
+      game.winnerTurn = 20;
+      sample.games.push_back(game);
+    }
+  }
+  return sample;
+}
+
+double missOfClasses(const std::array<int, kClasses>& wins) {
+  const Score score = scoreOf(loadData(BROLGAN_ASSETS), gamesWonBy(wins));
+  const auto found =
+      std::find_if(score.terms.begin(), score.terms.end(), [](const Term& t) { return t.name == "classes"; });
+  return found->miss;
+}
+
+TEST(Score, SparesTheTwoClassesFarthestFromTheirRange) {
+  EXPECT_NEAR(missOfClasses({10, 10, 10, 10, 10, 10, 10, 10, 10, 10}), 0, 1e-9);
+  const double two = missOfClasses({25, 1, 9, 9, 9, 9, 9, 9, 10, 10});
+  const double three = missOfClasses({25, 1, 1, 12, 11, 10, 10, 10, 10, 10});
+  EXPECT_NEAR(two, 0.2 * (10 + 5) / 30, 1e-9);
+  EXPECT_NEAR(three, (5 + 0.2 * (10 + 5)) / 30, 1e-9);
 }
 
 TEST(Search, KnowsItsDialsByName) { EXPECT_THROW(dialNamed("luck"), std::out_of_range); }
