@@ -109,12 +109,11 @@ void printZones(const Knowledge& known, const Measures& all, const Tallies& tall
   const auto chosen = favours(tallies);
   std::cout << "zone\tof turns\tdeaths\tone round\tlost\tarmour\tranks\tfavour\n";
   for (const Danger& zone : all.zones) {
-    std::cout << &zone - all.zones.data() + 1 << '\t' << 100 * zone.deaths.whole / all.oneRound.whole << '\t'
-              << 100 * zone.deaths.value() << '\t' << 100 * zone.oneRound.value() << '\t' << zone.lost.value() << '\t'
-              << all.usualArmour[static_cast<std::size_t>(&zone - all.zones.data())];
-    const auto place = static_cast<int>(&zone - all.zones.data());
-    if (place < kPandoria) {
-      std::cout << '\t' << rewardFollowsDanger(known, all, place) << '\t' << chosen[static_cast<std::size_t>(place)];
+    const auto place = static_cast<std::size_t>(&zone - all.zones.data());
+    std::cout << place + 1 << '\t' << 100 * zone.deaths.whole / all.oneRound.whole << '\t' << 100 * zone.deaths.value()
+              << '\t' << 100 * zone.oneRound.value() << '\t' << zone.lost.value() << '\t' << all.usualArmour[place];
+    if (place < chosen.size()) {
+      std::cout << '\t' << rewardFollowsDanger(known, all, static_cast<int>(place)) << '\t' << chosen[place];
     }
     std::cout << '\n';
   }
@@ -147,7 +146,7 @@ void printCareers(const Knowledge& known, const Sample& sample, const Tallies& t
 // How many of a hundred won games end too soon and too late.
 void printLengths(const std::vector<GameRecord>& games) {
   const auto turns = winningTurns(games);
-  const auto won = static_cast<double>(turns.size());
+  const double won = std::max(1.0, static_cast<double>(turns.size()));
   const auto share = [&](auto isSuch) {
     return 100 * static_cast<double>(std::count_if(turns.begin(), turns.end(), isSuch)) / won;
   };
@@ -175,7 +174,7 @@ void tryOut(const Setup& setup) {
   printCareers(known, sample, tallies);
   printLengths(sample.games);
   printDear(known, sample.games);
-  for (const int monster : harmlessMonsters(Knowledge(data), all)) std::cout << "harmless: " << monster + 1 << '\n';
+  for (const int monster : harmlessMonsters(known, all)) std::cout << "harmless: " << monster + 1 << '\n';
 }
 
 Score play(const Setup& setup, const Shape& shape, std::uint64_t seed) {
