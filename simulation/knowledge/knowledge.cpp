@@ -84,6 +84,14 @@ const Monster& Knowledge::monsterNamed(const std::string& name) const {
   return *found;
 }
 
+const Monster& Knowledge::withTheKingLast(int place) const {
+  const Monster& monster = monsters.at(static_cast<std::size_t>(place));
+  if (monster.last) return monsters.back();
+  if (place != kMonsters - 1) return monster;
+  const auto king = std::find_if(monsters.begin(), monsters.end(), [](const Monster& m) { return m.last; });
+  return king == monsters.end() ? monster : *king;
+}
+
 int topStep(int statistic) { return kStatisticTable.at(static_cast<std::size_t>(statistic)).top(); }
 
 const std::array<std::array<int, 12>, kStatistics> kLadderNumbers = [] {

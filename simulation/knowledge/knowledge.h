@@ -65,6 +65,8 @@ struct Knowledge {
   explicit Knowledge(const DataFiles& data);
 
   [[nodiscard]] int weaponNamed(const std::string& name) const;
+  // The monster of that place if the king, wherever he stands, changed places with the last of the list.
+  [[nodiscard]] const Monster& withTheKingLast(int place) const;
   [[nodiscard]] const Monster& monsterNamed(const std::string& name) const;
 };
 

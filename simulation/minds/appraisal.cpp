@@ -162,7 +162,8 @@ std::vector<Judgement::Sight> Judgement::frontier(const HeroNotes& hero) {
   std::vector<Sight> sights;
   for (const int step : {-2, 0, 2, 4, 7, 10}) {
     const int i = std::clamp(edge_ + step, 0, kMonsters - 1);
-    Sight sight{&known_.monsters[i], plan(hero, known_.monsters[i], hero.value(kSpeed)).plan, 0};
+    const Monster& monster = known_.withTheKingLast(i);
+    Sight sight{&monster, plan(hero, monster, hero.value(kSpeed)).plan, 0};
     sight.power = power(hero, sight, sight.plan);
     sights.push_back(sight);
   }

@@ -39,6 +39,9 @@ double prize(const HeroNotes& hero, const Monster& monster) {
   return hunger(hero) * (hero.is(kGambler) ? std::min(points, kOneVisit) : points);
 }
 
+// Only with a life to spare, and hardly wounded.
+bool canGamble(const HeroNotes& hero) { return hero.lives > 1 && hero.endurance * 10 >= hero.fullEndurance() * 9; }
+
 }  // namespace
 
 int Offer::place() const {
@@ -96,8 +99,8 @@ HeroNotes onAnOrdinaryDay(HeroNotes hero) {
 Temper sensible(int rivals) {
   constexpr std::array kCourage = {1.1, 1.3, 2.5, 27.0};
   constexpr std::array kCare = {2.5, 2.5, 1.4, 0.6};
-  constexpr double kTemptation = 0.55;
-  constexpr int kMood = 4;
+  constexpr double kTemptation = 0.59;
+  constexpr int kMood = 2;
   const auto table = static_cast<std::size_t>(rivals);
   return {kCourage.at(table), kCare.at(table), kTemptation, kMood};
 }
@@ -243,7 +246,7 @@ int Judgement::bestZone(const HeroNotes& hero, bool daring) const {
     best = zone;
   };
   for (const int zone : kOrder) consider(zone);
-  const bool gambles = daring && hero.lives > 1 && map.worthOf(kPandoria, temptation_ * most) > temptation_ * most;
+  const bool gambles = daring && canGamble(hero) && map.worthOf(kPandoria, temptation_ * most) > temptation_ * most;
   return gambles ? kPandoria : best;
 }
 

@@ -36,7 +36,7 @@ struct Temper {
 };
 // A sensible player hurries when others may be there before him, and takes his time alone.
 Temper sensible(int rivals);
-inline constexpr Temper kDaredevil = {60, 0.3, 0.15, 2};
+inline constexpr Temper kDaredevil = {60, 0.3, 0.15, 1};
 
 class Judgement {
  public:
@@ -45,7 +45,7 @@ class Judgement {
   Judgement(const Knowledge& known, Foresight foresight, Foresight reckoning, const Temper& temper, std::uint64_t seed);
 
   [[nodiscard]] Prospect plan(const HeroNotes& hero, const Monster& monster, int initiative) const;
-  // The zone worth most; a daring player with a life to spare takes the gamble when it tempts him.
+  // The zone worth most; a daring player takes the gamble when it tempts him, if he is well and has a life to spare.
   [[nodiscard]] int bestZone(const HeroNotes& hero, bool daring) const;
 
   // Everything that the hero could still buy, with its price there.

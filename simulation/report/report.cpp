@@ -145,10 +145,10 @@ void writePlots(const fs::path& folder, const Knowledge& known, const Study& stu
 
 const char* const kBefore =
     "\n„Było” to pierwsze liczby w rękach pierwszych graczy. Dzisiejsi rozsądni są śmielsi i nie gromadzą punktów, a\n"
-    "nowicjusz kupuje więcej wcieleń, więc część różnicy to oni. Liczby sprzed ostatniego strojenia, z mocniejszą\n"
-    "bronią białą i samotnikami zamiast grup na dworze „Króla”, dawały dzisiejszym rozsądnym (600 partii): w jednej\n"
-    "rundzie 38.9%, bez kosztów 36.0%, zwycięstwo w turach 18–30 80.8%, Berserker 19.3% zwycięstw, jedna strefa\n"
-    "18.9% tur, „Pandoria” płaci 94.7%, wczesny „Tron” 1.3 walki na 2000.\n";
+    "nowicjusz kupuje więcej wcieleń, więc część różnicy to oni. Liczby sprzed ostatniego strojenia, z „Królem”\n"
+    "o cieńszym pancerzu na końcu listy i UltiGunem za 10 punktów, dawały dzisiejszym rozsądnym (600 partii): w\n"
+    "jednej rundzie 38.3%, bez kosztów 35.4%, zwycięstwo w turach 18–30 80.9%, Ryzykant 23.1% zwycięstw, Strzelec\n"
+    "5.0%, „Pandoria” płaci 92.4%.\n";
 
 std::string aimTable(const std::vector<Aim>& aims) {
   std::ostringstream out;
@@ -221,6 +221,8 @@ const char* const kIntroduction =
     "Królów”, rusza dalej dopiero po dwóch łatwych walkach z rzędu. **Chciwy** rozgrywa każdą walkę w głowie, nim ją\n"
     "wybierze. **Hazardzista** ciągnie do „Pandorii” i do „Tronu Królów”, nim przyjdzie pora. Rozsądny waży się na\n"
     "tym więcej, im więcej ma rywali: w czwórkę rany liczy mało, a śmierć, po której zostaje zapas, jeszcze mniej.\n"
+    "Na „Pandorię” ma ochotę co drugą wizytę, ale idzie tylko zdrowy, z zapasowym wcieleniem i gdy wygląda ona choć\n"
+    "w trzech piątych tak dobrze jak najlepszy wybór.\n"
     "Samotny odwleka „Tron” najdłużej, a partia, która po 60 turach trwa, liczy się jako nierozstrzygnięta.\n\n"
     "W nawiasach stoją przedziały, w których z ufnością 95% leży prawdziwa wartość.\n\n";
 
@@ -232,7 +234,8 @@ const char* const kRules =
     "  dobry początek.\n"
     "- Ryzykant dostaje potrójne punkty i nawet z tym, co przepada, rośnie najszybciej. Nagrody potworów leżą na ogół\n"
     "  tuż nad połówką, bo wtedy zaokrąglanie najbardziej pomaga pozostałym.\n"
-    "  Hamują go działy sklepu: co druga wizyta pozwala rozwijać cechy, co trzecia kupić broń.\n"
+    "  Hamują go działy sklepu (co druga wizyta pozwala rozwijać cechy, co trzecia kupić broń) i to, że na broń\n"
+    "  droższą niż łup z jednej walki nie uzbiera.\n"
     "- Berserker uderza w rundzie dwa razy, więc każda broń biała jest w jego ręku dwiema.\n"
     "- Czarownik odzyskuje w rundzie od 0 do 3 punktów magii, zależnie od regeneracji, którą musi najpierw kupić;\n"
     "  z początku gra więc jak bohater bez klasy.\n"
@@ -254,20 +257,24 @@ const char* const kSearch =
     "zostawała, gdy w trzech seriach partii była bliżej celów. Co zostało, stoi we\n"
     "[wspinaczka.csv](balans/wspinaczka.csv), z wynikiem w partiach, które o niczym nie rozstrzygały.\n"
     "Pomogły: jedna szeroka kość zamiast stałego dodatku (śmierć zdarza się, choć zwykła walka kosztuje mało), od\n"
-    "ósmej strefy grupy z większym dodatkiem niż samotnicy obok, nagrody tuż nad połówką punktu, „Król” o mniejszym\n"
-    "pancerzu i na końcu listy, gdzie spotyka się go rzadziej, słabszy dwór, ogień przenoszony przez UltiGun.\n"
-    "Nie pomogły wyższe ceny najlepszych broni i niższy pancerz końcówki, jeśli miały utemperować Berserkera\n"
-    "i Ryzykanta. Czego jeszcze próbowano, by wyrównać klasy, pokazuje [klasy-proby.csv](balans/klasy-proby.csv),\n"
-    "po jednej zmianie w wierszu, jeszcze z poprzednimi liczbami i ostrożniejszymi graczami: Ryzykant zostaje ponad\n"
-    "piętnastoma na sto, Strzelec i Czarownik poniżej sześciu.\n\n"
-    "Ostatnie zmiany wybrano ręcznie: z dwustu losowych zestawów, po 300 partii każdy, policzono, co która liczba\n"
-    "porusza, a potem próbowano po kilka naraz. Słabsze ostrza, mocniejsze działa i grupy na dworze „Króla”\n"
-    "sprowadziły Berserkera między innych, za cenę długości: partie częściej kończą się przed turą 18 i po 30.\n"
-    "O klasach rozstrzyga czasem jeden próg: „Kikimora z Magla” o pancerzu 4 zamiast 3 zostawia Wojownikowi trzy\n"
-    "zwycięstwa na sto, a Strzelcowi daje siedem i pół.\n\n"
-    "Śmierci przybyło razem ze śmiałością: przy wspólnym stole gracze, dla których stracone wcielenie\n"
-    "waży dwadzieścia pięć razy mniej, wygrali 736 partii, a sześć razy mniej, 762, czyli żadnej różnicy nie\n"
-    "dowiedziono (47–52%); giną za to prawie dwa razy częściej.\n";
+    "ósmej strefy grupy z większym dodatkiem niż samotnicy obok, nagrody tuż nad połówką punktu, ogień przenoszony\n"
+    "przez UltiGun, a potem, z dwustu losowych zestawów po 300 partii, słabsze ostrza, mocniejsze działa i grupy na\n"
+    "dworze „Króla”, które sprowadziły Berserkera między innych.\n\n"
+    "Ostatni krok dotyczył końca partii. „Król” stoi teraz na przedostatnim miejscu listy, więc na „Tronie” spotyka\n"
+    "się go co trzeci raz; jego pancerz przebijają tylko najcięższe ciosy, a UltiGun kosztuje więcej, niż Ryzykant\n"
+    "przynosi zwykle z jednej walki. Kupi go dopiero, gdy pokona bogatą grupę, a sklep zaraz potem otworzy dział\n"
+    "broni. Potrzeba było obu rzeczy naraz, co pokazuje [cena-ultiguna.csv](balans/cena-ultiguna.csv) (po 600 partii\n"
+    "z liczbami tego pliku, innymi tylko w UltiGunie i „Królu”): za 10 punktów Ryzykant wygrywa 24 partie na sto i co\n"
+    "piąta kończy się przed turą 18, za 15 wygrywa 10, za 15 z cienkim pancerzem „Króla” znów 23. Sama cena\n"
+    "i sam pancerz nie pomagały też wcześniej; czego jeszcze próbowano, by wyrównać klasy, pokazuje\n"
+    "[klasy-proby.csv](balans/klasy-proby.csv), po jednej zmianie w wierszu, z dawnymi liczbami i ostrożniejszymi\n"
+    "graczami. Resztę poprawiano ręcznie, po jednej lub kilka liczb, w jakichś stu pięćdziesięciu zestawach po 800 do\n"
+    "2400 partii z innymi ziarnami niż partie tego pliku; ich dziennika tu nie ma.\n"
+    "O wielu rzeczach rozstrzyga jeden próg: w jednej z tych prób „Zombi z Kolejki” o szybkości 4 zamiast 9 dały\n"
+    "53 walki na sto w jednej rundzie zamiast 39.\n\n"
+    "Śmierci przybyło razem ze śmiałością: przy wspólnym stole, jeszcze z poprzednimi liczbami, gracze, dla których\n"
+    "stracone wcielenie waży dwadzieścia pięć razy mniej, wygrali 736 partii, a sześć razy mniej, 762, czyli żadnej\n"
+    "różnicy nie dowiedziono (47–52%); ginęli za to prawie dwa razy częściej.\n";
 
 // What a dear weapon adds to the chance to win.
 std::string dearTable(const Knowledge& known, const Study& study) {

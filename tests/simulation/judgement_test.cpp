@@ -1,4 +1,5 @@
 // Which zone a player goes to: the one worth most of all, however few fights he thinks through to see it.
+// What he would give for goods.
 #include "simulation/minds/judgement.h"
 
 #include <gtest/gtest.h>
@@ -61,16 +62,47 @@ TEST_F(Zones, AreLeftForPandoriaByTheDaringWhenItTempts) {
   int refusals = 0;
   for (HeroNotes hero : heroes(data, known)) {
     hero.lives = 3;
+    hero.endurance = hero.fullEndurance() * 9 / 10 + 1;
     const auto worths = worthsOf(judgement, known, hero);
     const double most = *std::max_element(worths.begin(), worths.end());
     const bool tempts = worths[kPandoria] > temper.temptation * most;
     EXPECT_EQ(judgement.bestZone(hero, true) == kPandoria, tempts || worths[kPandoria] == most);
     (tempts ? gambles : refusals) += 1;
-    hero.lives = 1;
-    EXPECT_EQ(judgement.bestZone(hero, true), judgement.bestZone(hero, false));
+    HeroNotes last = hero;
+    last.lives = 1;
+    EXPECT_EQ(judgement.bestZone(last, true), judgement.bestZone(last, false));
+    HeroNotes wounded = hero;
+    wounded.endurance = hero.fullEndurance() * 9 / 10 - 1;
+    EXPECT_EQ(judgement.bestZone(wounded, true), judgement.bestZone(wounded, false));
   }
   EXPECT_GT(gambles, 0);
   EXPECT_GT(refusals, 0);
+}
+
+// A hero who has nearly everything, so that only the last of the list are at the edge of his strength.
+HeroNotes grown() {
+  HeroNotes hero;
+  for (int i = 0; i < kLives; ++i) hero.steps[static_cast<std::size_t>(i)] = topStep(i) - (i == kSpeed ? 1 : 0);
+  hero.owned[kWeapons - 1] = true;
+  hero.spells.fill(true);
+  hero.points = 40;
+  return hero;
+}
+
+std::vector<double> gainsOf(const Knowledge& known) {
+  const Foresight reckon = reckoning(known);
+  Judgement judgement(known, reckon, reckon, sensible(3), 4);
+  return judgement.gains(grown(), judgement.offers(grown(), false), 40);
+}
+
+TEST(Gains, AreWeighedAgainstTheKingWhereverHeStands) {
+  const Knowledge known(loadData(BROLGAN_ASSETS));
+  Knowledge other = known;
+  const auto king = std::find_if(other.monsters.begin(), other.monsters.end(), [](const Monster& m) { return m.last; });
+  auto& elsewhere = king == other.monsters.end() - 1 ? *(king - 1) : other.monsters.back();
+  std::swap(*king, elsewhere);
+  std::swap(king->number, elsewhere.number);
+  EXPECT_EQ(gainsOf(known), gainsOf(other));
 }
 
 }  // namespace

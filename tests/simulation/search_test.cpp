@@ -228,7 +228,7 @@ double foundOf(const Score& score, const std::string& name) {
 
 TEST(Score, HearsOfEveryAimThatGamesCanMiss) {
   const DataFiles data = loadData(BROLGAN_ASSETS);
-  const Score score = scoreOf(data, playSample(data, 8, 1, 4));
+  const Score score = scoreOf(data, playSample(data, 24, 2, 4));
   EXPECT_GT(foundOf(score, "newcomers_median"), 0);
   EXPECT_GT(foundOf(score, "newcomers_ended"), 0);
   EXPECT_LT(foundOf(score, "zones_chosen"), 100);
