@@ -14,10 +14,11 @@ constexpr const char* kInk = "#2b2b2b";
 constexpr const char* kFill = "#8a3b2a";
 constexpr const char* kPaper = "#fbf7ee";
 
-std::string text(double x, double y, const std::string& words, const char* anchor, int size = 13) {
+std::string text(double x, double y, const std::string& words, const char* anchor, int size = 13,
+                 const char* ink = kInk) {
   std::ostringstream out;
   out << "<text x=\"" << x << "\" y=\"" << y << "\" font-size=\"" << size << "\" text-anchor=\"" << anchor
-      << "\" fill=\"" << kInk << "\">" << words << "</text>\n";
+      << "\" fill=\"" << ink << "\">" << words << "</text>\n";
   return out.str();
 }
 
@@ -47,6 +48,18 @@ std::string shown(double value) {
   std::ostringstream out;
   out << std::round(value * 10) / 10;
   return out.str();
+}
+
+// A cell the darker the larger its share, with the share in it in percent, when that is not 0.
+std::string shadeCell(double x, double y, double width, int height, double share) {
+  constexpr double kDark = 0.7;  // from here on light figures are easier to read
+  const double shade = std::min(1.0, std::sqrt(share) * 1.2);
+  std::ostringstream fill;
+  fill << kFill << "\" fill-opacity=\"" << shade;
+  const std::string cell = box(x, y + 1, width - 1, height - 2, fill.str());
+  const auto percent = std::lround(share * 100);
+  if (percent == 0) return cell;
+  return cell + text(x + width / 2, y + 15, std::to_string(percent), "middle", 10, shade > kDark ? kPaper : kInk);
 }
 
 double largest(const std::vector<double>& values) {
@@ -129,14 +142,7 @@ std::string shadeTable(const std::string& title, const std::string& axis, const 
     const double y = kTop + kRow * static_cast<double>(row);
     body += text(kLeft - 8, y + 15, rows[row], "end");
     for (std::size_t i = 0; i < columns; ++i) {
-      const double share = shares[row][i];
-      std::ostringstream fill;
-      fill << kFill << "\" fill-opacity=\"" << std::min(1.0, std::sqrt(share) * 1.2);
-      body += box(kLeft + step * static_cast<double>(i), y + 1, step - 1, kRow - 2, fill.str());
-      if (share >= 0.005) {
-        body += text(kLeft + step * (static_cast<double>(i) + 0.5), y + 15,
-                     std::to_string(static_cast<int>(std::lround(share * 100))), "middle", 10);
-      }
+      body += shadeCell(kLeft + step * static_cast<double>(i), y, step, kRow, shares[row][i]);
     }
   }
   for (std::size_t i = 0; i < columns; ++i) {
