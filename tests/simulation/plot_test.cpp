@@ -8,7 +8,7 @@
 namespace brolgan::simulation {
 namespace {
 
-// The colour in which the only figure of size 10 with those words stands.
+// The colour in which those words stand, empty when they do not.
 std::string inkOf(const std::string& plot, const std::string& words) {
   const std::size_t end = plot.find(">" + words + "</text>");
   if (end == std::string::npos) return "";
