@@ -107,6 +107,33 @@ std::string wayAdvice(const Tallies& tallies) {
   return out.str();
 }
 
+// The weapon of the largest mean damage that a hero owns.
+int heaviest(const Knowledge& known, const HeroNotes& hero) {
+  int best = 0;
+  for (int i = 1; i < kWeapons; ++i) {
+    const auto mean = [&](int weapon) { return known.weapons[static_cast<std::size_t>(weapon)].damage.mean; };
+    if (hero.owned[static_cast<std::size_t>(i)] && mean(i) > mean(best)) best = i;
+  }
+  return best;
+}
+
+// What the king wears, and with which heavy weapon most winners come.
+std::string kingAdvice(const Knowledge& known, const Study& study) {
+  std::array<int, kWeapons> held{};
+  Share share;
+  for (const GameRecord& game : study.games) {
+    if (game.winner < 0) continue;
+    ++held[static_cast<std::size_t>(heaviest(known, game.seats[static_cast<std::size_t>(game.winner)].hero))];
+    ++share.whole;
+  }
+  const auto usual = std::max_element(held.begin(), held.end());
+  share.part = *usual;
+  const Monster& king = known.withTheKingLast(kMonsters - 1);
+  return quoted(king.name) + " nosi pancerz " + std::to_string(king.armour) + ", więc " + percentOf(share) +
+         " zwycięzców przychodzi z bronią " +
+         quoted(known.weapons[static_cast<std::size_t>(usual - held.begin())].name) + ".";
+}
+
 std::string dangerAdvice(const Knowledge& known, const Study& study, const Measures& all) {
   std::vector<int> first;
   for (const GameRecord& game : study.games) {
@@ -122,7 +149,7 @@ std::string dangerAdvice(const Knowledge& known, const Study& study, const Measu
       << zoneName(kThroneZone) << ": rozsądny wchodzi tam pierwszy raz około tury " << medianOf(first)
       << ", a śmiercią kończy się " << percentOf(all.zones[kThroneZone].deaths)
       << " tych walk; zapasowe wcielenie kupuje się przedtem. " << zoneName(kPandoria) << ": śmiercią kończy się "
-      << percentOf(all.zones[kPandoria].deaths) << " walk.\n";
+      << percentOf(all.zones[kPandoria].deaths) << " walk. " << kingAdvice(known, study) << "\n";
   return out.str();
 }
 

@@ -273,7 +273,7 @@ const char* const kSearch =
     "O wielu rzeczach rozstrzyga jeden próg: w jednej z tych prób „Zombi z Kolejki” o szybkości 4 zamiast 9 dały\n"
     "53 walki na sto w jednej rundzie zamiast 39.\n\n"
     "Czego warto nie kupować, sprawdzono też osobno, przy 2500 stołach na każdą rzecz: bez „Leczenia” (27.2 zwycięstw\n"
-    "na sto) i „Klasy III A” (40.6) wygrywa się rzadziej, „BOOM !” tego prawie dowodzi (48.5, przedział 46.5–50.4),\n"
+    "na sto) i „Klasy III A” (40.6) wygrywa się rzadziej, przy „BOOM !” prawie tego dowiedziono (48.5; 46.5–50.4),\n"
     "a „Granat” (55.6) i „BullShots” (53.6) rozsądni kupują na własną szkodę: wyceniają je za wysoko.\n\n"
     "Śmierci przybyło razem ze śmiałością: przy wspólnym stole, jeszcze z poprzednimi liczbami, gracze, dla których\n"
     "stracone wcielenie waży dwadzieścia pięć razy mniej, wygrali 736 partii, a sześć razy mniej, 762, czyli żadnej\n"
