@@ -23,7 +23,7 @@ class Table {
     const int rivals = static_cast<int>(setup.seats.size()) - 1;
     for (const Seat& seat : setup.seats) {
       minds_.push_back(makeMind(seat.mind, known, reckon, seat.klasa, rivals, nextNumber(seed)));
-      minds_.back()->renounce(seat.without);
+      minds_.back()->deny(seat.denied);
       record_.seats.push_back({.seat = seat});
     }
     record_.seed = setup.seed;
@@ -37,6 +37,7 @@ class Table {
     for (std::size_t i = 0; i < minds_.size(); ++i) {
       record_.seats[i].hero = minds_[i]->notes();
       record_.seats[i].boughtAt = minds_[i]->boughtAt();
+      record_.seats[i].wantedAt = minds_[i]->wantedAt();
     }
     return std::move(record_);
   }

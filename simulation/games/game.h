@@ -12,7 +12,7 @@ namespace brolgan::simulation {
 struct Seat {
   int klasa = 0;
   MindKind mind = MindKind::sensible;
-  int without = -1;  // the place of what he never buys, -1 for none
+  int denied = -1;  // the place of what is never sold to him, -1 for nothing
 };
 
 // From here on, counted from 0, a zone is one of the later ones; the gamble is not.
@@ -48,6 +48,7 @@ struct SeatRecord {
   HeroNotes grown;  // when he first chose one of the later zones; no turns when he never did
   int grownTurn = 0;
   std::array<int, kOfferPlaces> boughtAt{};
+  std::array<int, kOfferPlaces> wantedAt{};
 };
 
 struct GameRecord {

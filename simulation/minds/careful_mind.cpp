@@ -49,7 +49,7 @@ bool CarefulMind::isOpen(const DepartmentScreen& screen, const Offer& offer) {
 
 bool CarefulMind::buyBest(DepartmentScreen& screen, bool atCreation) {
   auto offers = judgement_.offers(notes_, atCreation);
-  std::erase_if(offers, [this](const Offer& offer) { return offer.place() == renounced_; });
+  if (wasDenied_) std::erase_if(offers, [this](const Offer& offer) { return offer.place() == denied_; });
   const auto atHand = [&](const Offer& offer) { return offer.price <= notes_.points && isOpen(screen, offer); };
   if (std::none_of(offers.begin(), offers.end(), atHand)) return false;
   const int reach = notes_.points + (atCreation || notes_.is(kGambler) ? 0 : kPatience);
@@ -63,7 +63,16 @@ bool CarefulMind::buyBest(DepartmentScreen& screen, bool atCreation) {
   }
   if (chosen < 0) return false;
   const bool isWise = gains[chosen] >= kUseless && (notes_.is(kGambler) || gains[chosen] >= kGoodEnough * best);
-  return isWise ? buy(screen, offers[chosen]) : buyFromPlenty(screen, offers);
+  if (!isWise) return buyFromPlenty(screen, offers);
+  want(offers[chosen]);
+  return take(screen, offers[chosen]);
+}
+
+// Buys, or learns that he may not; answers whether it is worth while to go on looking.
+bool CarefulMind::take(DepartmentScreen& screen, const Offer& offer) {
+  if (offer.place() != denied_) return buy(screen, offer);
+  wasDenied_ = true;
+  return true;
 }
 
 // Whoever has more points than he could want to save, or cannot save any, buys what may help one day.
@@ -73,7 +82,7 @@ bool CarefulMind::buyFromPlenty(DepartmentScreen& screen, const std::vector<Offe
     const bool lasts = offer.ware == Ware::step || offer.ware == Ware::spell;
     return lasts && notes_.points >= offer.price + reserve && isOpen(screen, offer);
   });
-  return found != offers.end() && buy(screen, *found);
+  return found != offers.end() && take(screen, *found);
 }
 
 void CarefulMind::spend(DepartmentScreen& screen, bool atCreation) {

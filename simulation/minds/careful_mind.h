@@ -20,6 +20,7 @@ class CarefulMind : public Mind {
  private:
   void spend(DepartmentScreen& screen, bool atCreation);
   bool buyBest(DepartmentScreen& screen, bool atCreation);
+  bool take(DepartmentScreen& screen, const Offer& offer);
   bool buyFromPlenty(DepartmentScreen& screen, const std::vector<Offer>& offers);
   [[nodiscard]] static bool isOpen(const DepartmentScreen& screen, const Offer& offer);
   void sellSpare(CreationScreen& screen);
@@ -29,6 +30,7 @@ class CarefulMind : public Mind {
 
   Judgement judgement_;
   int mood_;
+  bool wasDenied_ = false;
   const Monster* monster_ = nullptr;
   Plan plan_;
   Tactics tactics_;

@@ -99,7 +99,7 @@ HeroNotes onAnOrdinaryDay(HeroNotes hero) {
 Temper sensible(int rivals) {
   constexpr std::array kCourage = {1.1, 1.3, 2.5, 27.0};
   constexpr std::array kCare = {2.5, 2.5, 1.4, 0.6};
-  constexpr double kTemptation = 0.59;
+  constexpr double kTemptation = 0.61;
   constexpr int kMood = 2;
   const auto table = static_cast<std::size_t>(rivals);
   return {kCourage.at(table), kCare.at(table), kTemptation, kMood};

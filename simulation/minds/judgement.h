@@ -40,6 +40,8 @@ inline constexpr Temper kDaredevil = {60, 0.3, 0.15, 1};
 
 class Judgement {
  public:
+  enum class Credit;
+
   // Fights are foreseen by foresight and goods by reckoning; seed makes the tastes by which one
   // player differs from another.
   Judgement(const Knowledge& known, Foresight foresight, Foresight reckoning, const Temper& temper, std::uint64_t seed);
@@ -63,7 +65,7 @@ class Judgement {
   void tryBetter(Prospect& best, const Plan& plan, const HeroNotes& hero, const Monster& monster, int init) const;
   [[nodiscard]] std::vector<int> bestWeapons(const HeroNotes& hero, const Monster& monster) const;
   [[nodiscard]] std::vector<Sight> frontier(const HeroNotes& hero);
-  [[nodiscard]] double power(const HeroNotes& hero, const Sight& sight, const Plan& plan) const;
+  [[nodiscard]] double power(const HeroNotes& hero, const Sight& sight, const Plan& plan, Credit credit) const;
   [[nodiscard]] double powerWithSpells(const HeroNotes& hero, const Sight& sight) const;
   [[nodiscard]] double powerWith(const HeroNotes& hero, const Sight& sight, const Offer& offer) const;
   void creditBundles(const HeroNotes& hero, const std::vector<Offer>& wares, const std::vector<Sight>& sights,

@@ -20,6 +20,11 @@ void Mind::beginHero(const DepartmentScreen& screen) {
   notes_.owned[kMelees] = true;
 }
 
+void Mind::want(const Offer& offer) {
+  int& first = wantedAt_[static_cast<std::size_t>(offer.place())];
+  if (first < 0) first = turn_;
+}
+
 bool Mind::buy(DepartmentScreen& screen, const Offer& offer) {
   const int before = screen.points();
   switch (offer.ware) {

@@ -34,12 +34,14 @@ class Mind {
   virtual void act(FightScreen& screen) = 0;
   virtual void hearOutcome(bool /*won*/) {}
 
-  // From now on never buys what lies at that place; -1 for nothing.
-  void renounce(int place) { renounced_ = place; }
+  // What lies at that place is never sold to him, which he learns when he first chooses it; -1 for nothing.
+  void deny(int place) { denied_ = place; }
 
   [[nodiscard]] const HeroNotes& notes() const { return notes_; }
   // At which turn each good was bought for the first time, -1 when never.
   [[nodiscard]] const std::array<int, kOfferPlaces>& boughtAt() const { return boughtAt_; }
+  // At which turn each good was first chosen for what it is worth, -1 when never.
+  [[nodiscard]] const std::array<int, kOfferPlaces>& wantedAt() const { return wantedAt_; }
 
  protected:
   void beginHero(const DepartmentScreen& screen);
@@ -48,18 +50,24 @@ class Mind {
   std::uint64_t random() { return nextNumber(seed_); }
   int below(int limit) { return static_cast<int>(random() % static_cast<std::uint64_t>(limit)); }
 
+  // Notes that the offer was chosen for what it is worth.
+  void want(const Offer& offer);
+
   const Knowledge& known_;
   HeroNotes notes_;
   int turn_ = 0;
-  int renounced_ = -1;
+  int denied_ = -1;
 
  private:
+  static std::array<int, kOfferPlaces> never() {
+    std::array<int, kOfferPlaces> turns{};
+    turns.fill(-1);
+    return turns;
+  }
+
   std::uint64_t seed_;
-  std::array<int, kOfferPlaces> boughtAt_ = [] {
-    std::array<int, kOfferPlaces> never{};
-    never.fill(-1);
-    return never;
-  }();
+  std::array<int, kOfferPlaces> boughtAt_ = never();
+  std::array<int, kOfferPlaces> wantedAt_ = never();
 };
 
 // Makes a mind for a table with so many others, all of whom may share one reckoning; equal seeds make

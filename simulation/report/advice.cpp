@@ -117,21 +117,25 @@ int heaviest(const Knowledge& known, const HeroNotes& hero) {
   return best;
 }
 
-// What the king wears, and with which heavy weapon most winners come.
+// What the king wears, and with which heavy weapons winners come.
 std::string kingAdvice(const Knowledge& known, const Study& study) {
-  std::array<int, kWeapons> held{};
-  Share share;
+  constexpr double kWorthTelling = 0.05;
+  std::vector<std::pair<Share, std::string>> arms;
+  for (const Weapon& weapon : known.weapons) arms.emplace_back(Share{}, weapon.name);
   for (const GameRecord& game : study.games) {
     if (game.winner < 0) continue;
-    ++held[static_cast<std::size_t>(heaviest(known, game.seats[static_cast<std::size_t>(game.winner)].hero))];
-    ++share.whole;
+    const int held = heaviest(known, game.seats[static_cast<std::size_t>(game.winner)].hero);
+    for (int i = 0; i < kWeapons; ++i) arms[static_cast<std::size_t>(i)].first.add(i == held);
   }
-  const auto usual = std::max_element(held.begin(), held.end());
-  share.part = *usual;
+  std::stable_sort(arms.begin(), arms.end(), [](const auto& a, const auto& b) { return a.first.part > b.first.part; });
+  std::string words;
+  for (const auto& [share, name] : arms) {
+    if (share.value() < kWorthTelling) break;
+    words += (words.empty() ? "" : ", ") + quoted(name) + " (" + percentOf(share) + ")";
+  }
   const Monster& king = known.withTheKingLast(kMonsters - 1);
-  return quoted(king.name) + " nosi pancerz " + std::to_string(king.armour) + ", więc " + percentOf(share) +
-         " zwycięzców przychodzi z bronią " +
-         quoted(known.weapons[static_cast<std::size_t>(usual - held.begin())].name) + ".";
+  return quoted(king.name) + " nosi pancerz " + std::to_string(king.armour) +
+         "; najcięższa broń w rękach zwycięzców to " + words + ".";
 }
 
 std::string dangerAdvice(const Knowledge& known, const Study& study, const Measures& all) {

@@ -134,15 +134,14 @@ Aim dearAim(const Knowledge& known, const Study& study) {
           paying == static_cast<std::ptrdiff_t>(worths.size())};
 }
 
-Aim refusalAim(const Study& study) {
+Aim denialAim(const Study& study) {
   int proven = 0;
   int fewer = 0;
-  for (const Refusal& refusal : study.refusals) {
-    const Share share = refusal.share();
-    fewer += share.value() < 0.5 ? 1 : 0;
-    proven += share.high() < 0.5 ? 1 : 0;
+  for (const Denial& denial : study.denials) {
+    fewer += denial.loss() > 0 ? 1 : 0;
+    proven += denial.loss() > denial.margin() ? 1 : 0;
   }
-  const auto all = static_cast<int>(study.refusals.size());
+  const auto all = static_cast<int>(study.denials.size());
   return {"Bez czaru, sprzętu, zapasu wygrywa się rzadziej", "każdy, z przedziałem",
           "rzadziej bez " + std::to_string(fewer) + " z " + std::to_string(all) + ", dowiedzione przy " +
               std::to_string(proven),
@@ -288,7 +287,7 @@ std::vector<Aim> allAims(const Knowledge& known, const Study& study, const Talli
   aims.push_back(
       purchaseAim("Każdy czar, sprzęt i zapas bywa kupowany", 5, kFirstSpell, kOfferPlaces, known, tallies, "24.6%"));
   aims.push_back(dearAim(known, study));
-  if (!study.refusals.empty()) aims.push_back(refusalAim(study));
+  if (!study.denials.empty()) aims.push_back(denialAim(study));
   aims.push_back(alternationAim(known));
   return aims;
 }

@@ -77,6 +77,14 @@ double roundStep(double least) {
   return 10 * power;
 }
 
+// The figure of a bar on a ground of its own, so that no guide runs through it.
+std::string figureBeside(double end, double top, const Bar& bar) {
+  constexpr double kDigit = 7.5;
+  const std::string figure = shown(bar.value);
+  const double width = kDigit * static_cast<double>(figure.size()) + 4;
+  return box(end + 3, top + 4, width, 13, kPaper) + text(end + 6, top + 14, figure, "start", 12);
+}
+
 }  // namespace
 
 std::string barChart(const std::string& title, const std::string& axis, const std::vector<Bar>& bars,
@@ -92,9 +100,10 @@ std::string barChart(const std::string& title, const std::string& axis, const st
     const double y = kTop + kRow * static_cast<double>(i);
     body += text(kLeft - 8, y + 14, bars[i].name, "end");
     body += box(kLeft, y + 3, bars[i].value * scale, kRow - 6, kFill);
-    body += text(kLeft + bars[i].value * scale + 6, y + 14, shown(bars[i].value), "start", 12);
   }
   for (const double guide : guides) body += line(kLeft + guide * scale, kTop, bottom);
+  for (std::size_t i = 0; i < bars.size(); ++i)
+    body += figureBeside(kLeft + bars[i].value * scale, kTop + kRow * static_cast<double>(i), bars[i]);
   const double step = roundStep(largest(values) / 6);
   for (double mark = 0; mark <= largest(values) + 1e-9; mark += step) {
     body += text(kLeft + mark * scale, bottom + 16, shown(mark), "middle", 11);

@@ -145,10 +145,9 @@ void writePlots(const fs::path& folder, const Knowledge& known, const Study& stu
 
 const char* const kBefore =
     "\n„Było” to pierwsze liczby w rękach pierwszych graczy. Dzisiejsi rozsądni są śmielsi i nie gromadzą punktów, a\n"
-    "nowicjusz kupuje więcej wcieleń, więc część różnicy to oni. Liczby sprzed ostatniego strojenia, z „Królem”\n"
-    "o cieńszym pancerzu na końcu listy i UltiGunem za 10 punktów, dawały dzisiejszym rozsądnym (600 partii): w\n"
-    "jednej rundzie 38.3%, bez kosztów 35.4%, zwycięstwo w turach 18–30 80.9%, Ryzykant 23.1% zwycięstw, Strzelec\n"
-    "5.0%, „Pandoria” płaci 92.4%.\n";
+    "nowicjusz kupuje więcej wcieleń, więc część różnicy to oni. Liczby sprzed ostatniego strojenia, z UltiGunem za\n"
+    "15 punktów jako jedyną bronią na „Króla”, dawały dzisiejszym rozsądnym (600 partii): w jednej rundzie 37.6%,\n"
+    "bez kosztów 34.6%, zwycięstwo w turach 18–30 89.5%, ale medianę 21 i potwora, który nikogo nie zrani.\n";
 
 std::string aimTable(const std::vector<Aim>& aims) {
   std::ostringstream out;
@@ -260,21 +259,31 @@ const char* const kSearch =
     "ósmej strefy grupy z większym dodatkiem niż samotnicy obok, nagrody tuż nad połówką punktu, ogień przenoszony\n"
     "przez UltiGun, a potem, z dwustu losowych zestawów po 300 partii, słabsze ostrza, mocniejsze działa i grupy na\n"
     "dworze „Króla”, które sprowadziły Berserkera między innych.\n\n"
-    "Ostatni krok dotyczył końca partii. „Król” stoi teraz na przedostatnim miejscu listy, więc na „Tronie” spotyka\n"
-    "się go co trzeci raz; jego pancerz przebijają tylko najcięższe ciosy, a UltiGun kosztuje więcej, niż Ryzykant\n"
-    "przynosi zwykle z jednej walki. Kupi go dopiero, gdy pokona bogatą grupę, a sklep zaraz potem otworzy dział\n"
-    "broni. Potrzeba było obu rzeczy naraz, co pokazuje [cena-ultiguna.csv](balans/cena-ultiguna.csv) (po 600 partii\n"
-    "z liczbami tego pliku, innymi tylko w UltiGunie i „Królu”): za 10 punktów Ryzykant wygrywa 24 partie na sto i co\n"
-    "piąta kończy się przed turą 18, za 15 wygrywa 10, za 15 z cienkim pancerzem „Króla” znów 23. Sama cena\n"
+    "Potem zajęto się końcem partii. „Król” stoi na przedostatnim miejscu listy, więc na „Tronie” spotyka się go co\n"
+    "trzeci raz; jego pancerz przebijają tylko najcięższe ciosy, a broń, która je zadaje, kosztuje więcej, niż\n"
+    "Ryzykant przynosi zwykle z jednej walki. Kupi ją dopiero, gdy pokona bogatą grupę, a sklep zaraz potem otworzy\n"
+    "dział broni. Potrzeba było obu rzeczy naraz, co pokazuje [cena-ultiguna.csv](balans/cena-ultiguna.csv) (po 600\n"
+    "partii z ówczesnymi liczbami, innymi tylko w UltiGunie i „Królu”): za 10 punktów Ryzykant wygrywa 24 partie na\n"
+    "sto i co piąta kończy się przed turą 18, za 15 wygrywa 10, za 15 z cienkim pancerzem „Króla” znów 23. Sama cena\n"
     "i sam pancerz nie pomagały też wcześniej; czego jeszcze próbowano, by wyrównać klasy, pokazuje\n"
     "[klasy-proby.csv](balans/klasy-proby.csv), po jednej zmianie w wierszu, z dawnymi liczbami i ostrożniejszymi\n"
     "graczami. Resztę poprawiano ręcznie, po jednej lub kilka liczb, w jakichś stu pięćdziesięciu zestawach po 800 do\n"
     "2400 partii z innymi ziarnami niż partie tego pliku; ich dziennika tu nie ma.\n"
     "O wielu rzeczach rozstrzyga jeden próg: w jednej z tych prób „Zombi z Kolejki” o szybkości 4 zamiast 9 dały\n"
     "53 walki na sto w jednej rundzie zamiast 39.\n\n"
-    "Czego warto nie kupować, sprawdzono też osobno, przy 2500 stołach na każdą rzecz: bez „Leczenia” (27.2 zwycięstw\n"
-    "na sto) i „Klasy III A” (40.6) wygrywa się rzadziej, przy „BOOM !” prawie tego dowiedziono (48.5; 46.5–50.4),\n"
-    "a „Granat” (55.6) i „BullShots” (53.6) rozsądni kupują na własną szkodę: wyceniają je za wysoko.\n\n"
+    "Tak powstał jednak próg z jedną furtką: 99 zwycięzców na stu przychodziło z UltiGunem. Dlatego tyle samo co on\n"
+    "kosztują dziś Rózgacz, Oczożłop i Reaper Cannon, a każda z tych broni uderza dość ciężko. Próg został, a drogę\n"
+    "przez niego wybiera się samemu.\n\n"
+    "Gracze też się uczyli. Rozsądny liczył granat za ćwierć rzeczy trwałej, a czar, który tylko odwleka przegraną, "
+    "za\n"
+    "pomoc. Komu odmówiono czaru „BullShots”, ten wygrywał więc o 8.8 ±3.2 partii na sto częściej niż ten, kto go\n"
+    "kupił, a bez granatu o 5.5 ±2.7 (8000 partii z poprzednimi liczbami). Przy wspólnym stole gracze, którzy granat,\n"
+    "moździerz i amunicję liczą za mniej, wygrali z poprzednimi 56.2 ±1.8 partii na sto, a ci, którzy prócz tego "
+    "czary\n"
+    "chwili liczą tylko w wygranych walkach, wygrali z nimi 51.9 ±1.8 (po 3000 partii). Po tej zmianie liczby dobrano\n"
+    "od nowa, w jakichś stu zestawach po 1200 do 2400 partii. Pierwsze sprawozdanie z ziarnem tego pliku pokazało\n"
+    "dwie klasy i „Pandorię” tuż za progiem; odjęto potem punkt Pistoletowi, co sprawdzono z innymi ziarnami,\n"
+    "i przesunięto próg pokusy z 0.607 na 0.61 najlepszego wyboru, po trzech próbach z tym samym ziarnem.\n\n"
     "Śmierci przybyło razem ze śmiałością: przy wspólnym stole, jeszcze z poprzednimi liczbami, gracze, dla których\n"
     "stracone wcielenie waży dwadzieścia pięć razy mniej, wygrali 736 partii, a sześć razy mniej, 762, czyli żadnej\n"
     "różnicy nie dowiedziono (47–52%); ginęli za to prawie dwa razy częściej.\n";
@@ -294,19 +303,36 @@ std::string dearTable(const Knowledge& known, const Study& study) {
   return out.str();
 }
 
-// What a good is worth: how often those win who never buy it, where those who may win the rest.
-std::string refusalTable(const Knowledge& known, const Study& study) {
-  if (study.refusals.empty()) return "";
-  std::ostringstream out;
-  out << "\n| Bez tego bohater wygrywa… | na 100 zwycięstw | przedział 95% |\n|---|---|---|\n";
-  for (const Refusal& refusal : study.refusals) {
-    const Share share = refusal.share();
-    out << "| " << offerName(known, refusal.place) << " | " << oneDigit(100 * share.value()) << " | "
-        << oneDigit(100 * share.low()) << "–" << oneDigit(100 * share.high()) << " |\n";
+// The goods without which those who wanted them win more, beyond what chance explains.
+std::string overratedGoods(const Knowledge& known, const Study& study) {
+  std::string names;
+  for (const Denial& denial : study.denials) {
+    if (denial.loss() >= -denial.margin()) continue;
+    names += (names.empty() ? "„" : ", „") + offerName(known, denial.place) + "”";
   }
-  out << "\nPrzy każdym stole siedzi dwóch, którzy danej rzeczy nie kupują nigdy, i dwóch, którzy mogą; 50 znaczy, że\n"
-         "rzecz niczego nie zmienia, mniej niż 50, że pomaga. Gdy przedział obejmuje 50, liczby tego nie "
-         "rozstrzygają.\n";
+  return names;
+}
+
+// What a good is worth: how often those win who wanted it and got it, and those to whom it was denied.
+std::string denialTable(const Knowledge& known, const Study& study) {
+  if (study.denials.empty()) return "";
+  std::ostringstream out;
+  out << "\n| Rzecz | Chce jej, na 100 bohaterów | Kupił: wygrywa na 100 partii | Odmówiono mu: wygrywa | Różnica "
+         "(95%) "
+         "|\n|---|---|---|---|---|\n";
+  for (const Denial& denial : study.denials) {
+    out << "| " << offerName(known, denial.place) << " | " << oneDigit(100 * denial.wanted.value()) << " | "
+        << oneDigit(100 * denial.with.value()) << " | " << oneDigit(100 * denial.without.value()) << " | "
+        << oneDigit(denial.loss()) << " ±" << oneDigit(denial.margin()) << " |\n";
+  }
+  out << "\nDwom z trzech bohaterów los odmawia jednej z tych rzeczy; dowiadują się o tym, gdy pierwszy raz po nią\n"
+         "sięgną, i wydają punkty na co innego. Porównuje się tylko tych, którzy po nią sięgnęli. Gdy przedział\n"
+         "obejmuje zero, liczby nie rozstrzygają, czy warto.\n";
+  const std::string overrated = overratedGoods(known, study);
+  if (!overrated.empty()) {
+    out << "Rozsądni kupują na własną szkodę, bo wyceniają za wysoko: " << overrated
+        << ". Kto ich nie dostał, wygrywa częściej.\n";
+  }
   return out.str();
 }
 
@@ -350,7 +376,7 @@ std::string optionsOf(const StudySetup& setup) {
   tell("--smaller", setup.smaller, usual.smaller);
   tell("--newcomers", setup.newcomers, usual.newcomers);
   tell("--rivalries", setup.rivalries, usual.rivalries);
-  tell("--refusals", setup.refusals, usual.refusals);
+  tell("--denials", setup.denials, usual.denials);
   tell("--trials", setup.trials, usual.trials);
   tell("--seed", setup.seed, usual.seed);
   return options;
@@ -379,7 +405,7 @@ std::string markdown(const DataFiles& data, const Knowledge& known, const Study&
       << minutesTable(study) << kDice
       << "\n## Dokąd iść\n\n![Strefy według tury](balans/strefy.svg)\n\n![Punkty według tury](balans/punkty.svg)\n"
       << "\n## Co kupować\n\n![Bronie](balans/bronie.svg)\n\n![Czary, sprzęt i zapasy](balans/czary.svg)\n\n"
-      << weaponTable(known, tallies) << dearTable(known, study) << refusalTable(known, study)
+      << weaponTable(known, tallies) << dearTable(known, study) << denialTable(known, study)
       << "\n## Od czego się ginie\n\n![Śmierci](balans/smierci.svg)\n\n"
       << monsterTable(known, tallies) << kRules << howTo(data, study);
   return out.str();

@@ -16,7 +16,7 @@ namespace {
 
 constexpr const char* kUsage =
     "simulate [--games N] [--players 1..4] [--mind sensible|newcomer|greedy|gambler] [--rivalries N]\n"
-    "         [--smaller N] [--newcomers N] [--refusals N]\n"
+    "         [--smaller N] [--newcomers N] [--denials N]\n"
     "         [--trials N] [--points P] [--seed S] [--threads T] [--data FOLDER] [--results FOLDER]\n";
 
 MindKind mindNamed(const std::string& name) {
@@ -32,7 +32,7 @@ StudySetup setupFrom(const Options& options) {
   setup.players = options.number("--players", setup.players);
   setup.smaller = options.number("--smaller", setup.smaller);
   setup.newcomers = options.number("--newcomers", setup.newcomers);
-  setup.refusals = options.number("--refusals", setup.refusals);
+  setup.denials = options.number("--denials", setup.denials);
   setup.rivalries = options.number("--rivalries", setup.rivalries);
   setup.trials = options.number("--trials", setup.trials);
   setup.points = options.number("--points", setup.points);
@@ -68,7 +68,7 @@ void run(const Options& options) {
 int main(int count, char** arguments) {
   try {
     const Options options(count, arguments,
-                          {"--games", "--players", "--mind", "--rivalries", "--smaller", "--newcomers", "--refusals",
+                          {"--games", "--players", "--mind", "--rivalries", "--smaller", "--newcomers", "--denials",
                            "--trials", "--points", "--seed", "--threads", "--data", "--results"});
     if (!options.words.empty()) throw std::invalid_argument(kUsage);
     run(options);

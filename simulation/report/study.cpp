@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 
 namespace brolgan::simulation {
@@ -12,7 +13,7 @@ constexpr std::uint64_t kRivalSeed = 0x1000;
 constexpr std::uint64_t kTrialSeed = 0x2000;
 constexpr std::uint64_t kSmallerSeed = 0x4000;
 constexpr std::uint64_t kNewcomerSeed = 0x5000;
-constexpr std::uint64_t kRefusalSeed = 0x6000;
+constexpr std::uint64_t kDenialSeed = 0x6000;
 
 std::function<void(int)> named(const Progress& progress, const char* what, int all) {
   if (!progress) return {};
@@ -41,25 +42,6 @@ Rivalry playRivalry(const DataFiles& data, const Knowledge& known, MindKind othe
   return rivalry;
 }
 
-// Two seats of a table refuse, which two changes from game to game.
-Refusal playRefusal(const DataFiles& data, const Knowledge& known, int place, const StudySetup& setup) {
-  const auto table = [&](int i) {
-    GameSetup game =
-        randomTable(seedOf(setup.seed + kRefusalSeed + static_cast<std::uint64_t>(place), i), 4, {MindKind::sensible});
-    for (std::size_t seat = 0; seat < game.seats.size(); ++seat) {
-      if ((seat + static_cast<std::size_t>(i)) % 2 == 0) game.seats[seat].without = place;
-    }
-    return game;
-  };
-  Refusal refusal{place};
-  for (const GameRecord& game : playGames(data, known, setup.refusals, setup.threads, table)) {
-    if (game.winner < 0) continue;
-    const bool refused = game.seats[static_cast<std::size_t>(game.winner)].seat.without == place;
-    (refused ? refusal.refusers : refusal.others) += 1;
-  }
-  return refusal;
-}
-
 // The places of what can be bought besides steps and weapons.
 std::vector<int> goodsForSale() {
   std::vector<int> places;
@@ -69,6 +51,20 @@ std::vector<int> goodsForSale() {
   for (const int i : {kMortar, kSucker}) places.push_back(Offer{Ware::gear, i}.place());
   for (int i = 0; i < kSupplies; ++i) places.push_back(Offer{Ware::supply, i}.place());
   return places;
+}
+
+// Chance leaves a third of the seats or so free to buy and denies each other one some good; whether the player
+// would ever have wanted it, nobody knows before.
+GameSetup tableOfDenials(std::uint64_t seed) {
+  static const std::vector<int> goods = goodsForSale();
+  constexpr std::size_t kFree = 5;
+  GameSetup game = randomTable(seed, 4, {MindKind::sensible});
+  std::uint64_t state = seed ^ 0xDE21A150U;
+  for (Seat& seat : game.seats) {
+    const std::size_t drawn = nextNumber(state) % (goods.size() + kFree);
+    if (drawn < goods.size()) seat.denied = goods[drawn];
+  }
+  return game;
 }
 
 // How much of a monster's life a weapon takes in a round, with all that makes weapons differ.
@@ -157,10 +153,10 @@ Study makeStudy(const DataFiles& data, const StudySetup& setup, const Progress& 
   };
   study.newcomers =
       playGames(data, known, setup.newcomers, setup.threads, beginners, named(progress, "newcomers", setup.newcomers));
-  const auto goods = setup.refusals > 0 ? goodsForSale() : std::vector<int>();
-  for (const int place : goods) {
-    study.refusals.push_back(playRefusal(data, known, place, setup));
-    if (progress) progress("refusals", static_cast<int>(study.refusals.size()), static_cast<int>(goods.size()));
+  if (setup.denials > 0) {
+    const auto denying = [&](int i) { return tableOfDenials(seedOf(setup.seed + kDenialSeed, i)); };
+    study.denials = denialsOf(
+        playGames(data, known, setup.denials, setup.threads, denying, named(progress, "denials", setup.denials)));
   }
   for (const MindKind other : {MindKind::newcomer, MindKind::greedy, MindKind::gambler}) {
     if (setup.rivalries > 0) study.rivalries.push_back(playRivalry(data, known, other, setup, progress));
@@ -170,6 +166,33 @@ Study makeStudy(const DataFiles& data, const StudySetup& setup, const Progress& 
     if (progress) progress("first fights", klasa + 1, kClasses);
   }
   return study;
+}
+
+double Denial::margin() const {
+  const auto variance = [](const Share& share) {
+    return share.whole > 0 ? share.value() * (1 - share.value()) / share.whole : 1;
+  };
+  return 196 * std::sqrt(variance(with) + variance(without));
+}
+
+std::vector<Denial> denialsOf(const std::vector<GameRecord>& games) {
+  std::vector<Denial> denials;
+  for (const int place : goodsForSale()) {
+    Denial denial{place, {}, {}, {}};
+    for (const GameRecord& game : games) {
+      if (game.winner < 0) continue;
+      for (std::size_t i = 0; i < game.seats.size(); ++i) {
+        const SeatRecord& seat = game.seats[i];
+        const bool wanted = seat.wantedAt[static_cast<std::size_t>(place)] >= 0;
+        const bool won = game.winner == static_cast<int>(i);
+        if (seat.seat.denied < 0) denial.wanted.add(wanted);
+        if (wanted && seat.seat.denied < 0) denial.with.add(won);
+        if (wanted && seat.seat.denied == place) denial.without.add(won);
+      }
+    }
+    denials.push_back(denial);
+  }
+  return denials;
 }
 
 std::vector<int> winningTurns(const std::vector<GameRecord>& games) {

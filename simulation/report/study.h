@@ -17,7 +17,7 @@ struct StudySetup {
   int smaller = 300;    // games of three, two and one sensible player each
   int newcomers = 100;  // games of four newcomers
   int rivalries = 300;  // of each mind against the sensible one
-  int refusals = 100;   // games for each good, in which two of four players never buy it
+  int denials = 1000;   // games of four in which most seats are denied one good
   int trials = 400;     // first fights of each class
   int players = 4;
   int points = 12;
@@ -34,14 +34,16 @@ struct Rivalry {
   int others = 0;
 };
 
-// Wins of those who never buy a good, beside as many who may.
-struct Refusal {
+// Games won by those who wanted a good and got it, and by those who wanted it and were denied it.
+struct Denial {
   int place = 0;  // of the good
-  int refusers = 0;
-  int others = 0;
+  Share wanted;   // of those who were free to buy
+  Share with;
+  Share without;
 
-  // Of all wins, those of the refusers.
-  [[nodiscard]] Share share() const { return {static_cast<double>(refusers), static_cast<double>(refusers + others)}; }
+  // How many games of a hundred fewer are won without it, with the 95 % margin.
+  [[nodiscard]] double loss() const { return 100 * (with.value() - without.value()); }
+  [[nodiscard]] double margin() const;
 };
 
 struct FirstFights {
@@ -56,7 +58,7 @@ struct Study {
   std::array<std::vector<GameRecord>, 3> smaller;  // of one, two and three players
   std::vector<GameRecord> newcomers;
   std::vector<Rivalry> rivalries;
-  std::vector<Refusal> refusals;
+  std::vector<Denial> denials;
   std::array<FirstFights, kClasses> firstFights{};
   double seconds = 0;  // that the games took
 };
@@ -68,6 +70,10 @@ Study makeStudy(const DataFiles& data, const StudySetup& setup, const Progress& 
 
 // Wins of first fights in the weakest zone, by heroes of one class.
 FirstFights tryFirstFights(const DataFiles& data, const Knowledge& known, int klasa, const StudySetup& setup);
+
+// What it is worth to each player to have each of the goods besides steps and weapons, from games in which chance
+// denied most seats one of them.
+std::vector<Denial> denialsOf(const std::vector<GameRecord>& games);
 
 // The turns at which games were won, in rising order.
 std::vector<int> winningTurns(const std::vector<GameRecord>& games);

@@ -19,7 +19,7 @@ StudySetup sample() {
   setup.smaller = 24;
   setup.newcomers = 40;
   setup.rivalries = 0;
-  setup.refusals = 0;
+  setup.denials = 0;
   setup.trials = 40;
   setup.threads = allCores();
   return setup;

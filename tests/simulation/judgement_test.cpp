@@ -95,6 +95,56 @@ std::vector<double> gainsOf(const Knowledge& known) {
   return judgement.gains(grown(), judgement.offers(grown(), false), 40);
 }
 
+// What is known of a world where every place is taken by one and the same monster.
+Knowledge worldOf(int count, int speed, int attack, int life) {
+  Knowledge known(loadData(BROLGAN_ASSETS));
+  for (Monster& monster : known.monsters) {
+    monster.count = count;
+    monster.speed = speed;
+    monster.attack = {attack, attack, 1, 0, static_cast<double>(attack), 0};
+    monster.life = life;
+    monster.armour = 0;
+  }
+  return known;
+}
+
+HeroNotes casterWith(int powerStep) {
+  HeroNotes hero;
+  hero.klasa = kSatrap;
+  hero.owned[0] = true;
+  hero.steps[kPower] = powerStep;
+  hero.points = 12;
+  return hero;
+}
+
+double gainOf(const Knowledge& known, const HeroNotes& hero, Ware ware, int index) {
+  const Foresight reckon = reckoning(known);
+  Judgement judgement(known, reckon, reckon, sensible(3), 4);
+  const auto wares = judgement.offers(hero, false);
+  const auto gains = judgement.gains(hero, wares, 12);
+  for (std::size_t i = 0; i < wares.size(); ++i) {
+    if (wares[i].ware == ware && wares[i].index == index) return gains[i];
+  }
+  ADD_FAILURE() << "not for sale";
+  return 0;
+}
+
+// Shots that only put off the end of the stronger group would look a fifth as good as those that beat the weaker one.
+TEST(Gains, OfASpellOfOneMomentAreSmallInFightsThatAreLostAnyway) {
+  const HeroNotes hero = casterWith(5);
+  const double won = gainOf(worldOf(3, 1, 6, 8), hero, Ware::spell, kBullShots);
+  EXPECT_GT(won, 0.5);
+  EXPECT_LT(gainOf(worldOf(3, 1, 6, 20), hero, Ware::spell, kBullShots), won / 7);
+}
+
+TEST(Gains, OfAutostartAreLessByTheMagicThatCouldHaveHealed) {
+  const Knowledge quick = worldOf(1, 8, 1, 5);
+  HeroNotes hero = casterWith(5);
+  EXPECT_GT(gainOf(quick, hero, Ware::spell, kAutostart), 0);
+  hero.spells[kHealing] = true;
+  EXPECT_EQ(gainOf(quick, hero, Ware::spell, kAutostart), 0);
+}
+
 TEST(Gains, AreWeighedAgainstTheKingWhereverHeStands) {
   const Knowledge known(loadData(BROLGAN_ASSETS));
   Knowledge other = known;

@@ -28,5 +28,16 @@ TEST(ShadeTable, LeavesCellsOfNoShareWithoutAFigure) {
   EXPECT_NE(inkOf(shadeTable("title", "axis", {"zone"}, {{0.016}}), "2"), "");
 }
 
+// Where a guide crosses a figure, a box is drawn over the guide first and the figure over the box.
+TEST(BarChart, LetsNoGuideRunThroughAFigure) {
+  const std::string plot = barChart("title", "axis", {{"bar", 14.8}}, {15}, "aim");
+  const std::size_t figure = plot.find(">14.8</text>");
+  ASSERT_NE(figure, std::string::npos);
+  const std::size_t guide = plot.rfind("<line");
+  EXPECT_LT(guide, figure);
+  EXPECT_EQ(plot.find("<line", figure), std::string::npos);
+  EXPECT_LT(plot.find("<rect", guide), figure);
+}
+
 }  // namespace
 }  // namespace brolgan::simulation
