@@ -102,8 +102,9 @@ std::string barChart(const std::string& title, const std::string& axis, const st
     body += box(kLeft, y + 3, bars[i].value * scale, kRow - 6, kFill);
   }
   for (const double guide : guides) body += line(kLeft + guide * scale, kTop, bottom);
-  for (std::size_t i = 0; i < bars.size(); ++i)
+  for (std::size_t i = 0; i < bars.size(); ++i) {
     body += figureBeside(kLeft + bars[i].value * scale, kTop + kRow * static_cast<double>(i), bars[i]);
+  }
   const double step = roundStep(largest(values) / 6);
   for (double mark = 0; mark <= largest(values) + 1e-9; mark += step) {
     body += text(kLeft + mark * scale, bottom + 16, shown(mark), "middle", 11);

@@ -3,8 +3,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
 
-#include "simulation/report/study.h"
+#include "simulation/report/aims.h"
+#include "simulation/report/report.h"
 
 namespace brolgan::simulation {
 namespace {
@@ -107,6 +112,52 @@ TEST(Denials, ChangeNothingUntilTheGoodIsWanted) {
     EXPECT_EQ(denied.seats[i].wantedAt[healing], first);
   }
   EXPECT_GT(early, 0);
+}
+
+Denial denialOf(int spell, double wonWith, double wonWithout) {
+  return {Offer{Ware::spell, spell}.place(), {50, 100}, {wonWith, 1000}, {wonWithout, 1000}};
+}
+
+// A few played games, and beside them what is said of the worth of goods.
+Study studyWith(const std::vector<Denial>& denials) {
+  const DataFiles data = loadData(BROLGAN_ASSETS);
+  static const auto games = playGames(data, Knowledge(data), 12, 1,
+                                      [](int i) { return randomTable(seedOf(21, i), 4, {MindKind::sensible}); });
+  Study study;
+  study.games = games;
+  study.denials = denials;
+  return study;
+}
+
+bool isReached(const std::vector<Denial>& denials) {
+  const Study study = studyWith(denials);
+  const auto aims = allAims(Knowledge(loadData(BROLGAN_ASSETS)), study, tally(study.games));
+  const auto found =
+      std::find_if(aims.begin(), aims.end(), [](const Aim& aim) { return aim.text.starts_with("Bez czaru"); });
+  EXPECT_NE(found, aims.end());
+  return found != aims.end() && found->reached;
+}
+
+TEST(Denials, MeetTheAimWhenEveryGoodIsShownToBeWorthItsPrice) {
+  EXPECT_TRUE(isReached({denialOf(kHealing, 300, 200), denialOf(kBoom, 280, 220)}));
+  EXPECT_FALSE(isReached({denialOf(kHealing, 300, 200), denialOf(kBoom, 255, 250)}));
+  EXPECT_FALSE(isReached({denialOf(kHealing, 300, 200), denialOf(kBoom, 200, 300)}));
+}
+
+std::string reportOn(const Study& study) {
+  const auto folder = std::filesystem::path(testing::TempDir()) / "denials";
+  std::filesystem::create_directories(folder / "balans");
+  writeReport(folder.string(), loadData(BROLGAN_ASSETS), study);
+  std::ifstream file(folder / "balans.md", std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(Denials, TellWhichGoodsAreBoughtToTheBuyersOwnLoss) {
+  const std::string harmful = "na własną szkodę, bo wyceniają za wysoko: „BOOM !”. Kto";
+  EXPECT_NE(reportOn(studyWith({denialOf(kHealing, 255, 250), denialOf(kBoom, 200, 300)})).find(harmful),
+            std::string::npos);
+  EXPECT_EQ(reportOn(studyWith({denialOf(kHealing, 300, 200), denialOf(kBoom, 250, 255)})).find("na własną szkodę"),
+            std::string::npos);
 }
 
 }  // namespace
